@@ -1,0 +1,26 @@
+# What every target of the project is compiled with.
+if(MSVC)
+  add_compile_options(/W4 /WX /utf-8 /fp:precise)
+else()
+  add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+  # A fused multiply-add rounds once where the flight rounds twice: with it a shell would land elsewhere on some machines.
+  add_compile_options(-ffp-contract=off)
+endif()
+
+if(QUINTARA_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+# quintara_library(NAME SOURCE...): the library of one folder; its headers are included as "FOLDER/header.h".
+function(quintara_library name)
+  add_library(${name} STATIC ${ARGN})
+  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
+endfunction()
+
+# quintara_test(NAME LIBRARY SOURCE...): a GoogleTest program whose cases ctest runs one by one.
+function(quintara_test name library)
+  add_executable(${name} ${ARGN})
+  target_link_libraries(${name} PRIVATE ${library} GTest::gtest GTest::gtest_main)
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST)
+endfunction()

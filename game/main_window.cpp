@@ -1,0 +1,65 @@
+#include "game/quintara.h"
+#include "scene/scene.h"
+
+namespace quintara {
+
+void QuintaraForm::Form_Load() {
+  Left = (scene().ScreenWidth() - Width) / 2;
+  Top = (scene().ScreenHeight() - Height) / 2 - 200;  // a little above the centre
+  Picture2.Visible = true;
+  SetAppFolder();
+  HScroll1.Value = 15;
+  StoreFlightTimeSetting();
+  mShellArmed = 0;
+
+  for (gLoopIndex = 1; gLoopIndex <= 4; ++gLoopIndex) {
+    Line1.Load(gLoopIndex);
+    Line1(gLoopIndex).Visible = true;
+    Shape6.Load(gLoopIndex);
+    Shape6(gLoopIndex).Visible = true;
+  }
+  for (gLoopIndex = 1; gLoopIndex <= 6; ++gLoopIndex) {
+    Line7.Load(gLoopIndex);
+    Line7(gLoopIndex).Visible = true;
+  }
+  LayScopeGrid();
+
+  // The first step up the column of shells is shorter than the others: Shape6(0) stands at 700.
+  for (gLoopIndex = 1; gLoopIndex <= 4; ++gLoopIndex) Shape6(gLoopIndex).Top = 735 - 135 * gLoopIndex;
+  DrawFragmentWidths();
+}
+
+// All data files are found through gAppPath. At the root of a drive the path ends in the separator already.
+void QuintaraForm::SetAppFolder() {
+  gAppPath = scene().AppPath();
+  if (Right(gAppPath, 1) != "\\") gAppPath += "\\";
+}
+
+void QuintaraForm::LayScopeGrid() {
+  for (gLoopIndex = 1; gLoopIndex <= 4; ++gLoopIndex) {
+    Line1(gLoopIndex).Y1 = 60 + 90 * gLoopIndex;
+    Line1(gLoopIndex).Y2 = 60 + 90 * gLoopIndex;
+  }
+  for (gLoopIndex = 1; gLoopIndex <= 6; ++gLoopIndex) {
+    Line7(gLoopIndex).X1 = 80 + 90 * gLoopIndex;
+    Line7(gLoopIndex).X2 = 80 + 90 * gLoopIndex;
+  }
+}
+
+void QuintaraForm::DrawFragmentWidths() {
+  scene().Randomize();
+  for (Shape* fragment : {&shpExplode1, &shpExplode2, &shpExplode3, &shpExplode4, &shpExplode5}) {
+    fragment->Width = Int(scene().Rnd() * 50 + 30);
+  }
+}
+
+// Record 5 of extra.txt carries the setting of HScroll1 from one target to the next.
+void QuintaraForm::StoreFlightTimeSetting() {
+  if (scene().files().WriteRecord(gAppPath + "extra.txt", 5, ToText(HScroll1.Value))) return;
+  scene().TellFault(
+      "The flight time setting could not be saved in the file extra.txt. The file was left as it is, and the "
+      "game goes "
+      "on.");
+}
+
+}  // namespace quintara

@@ -1,0 +1,59 @@
+#include "scene/container.h"
+
+#include <algorithm>
+
+namespace quintara {
+
+Container::Container(Object& self, ChangeCount& changes, const Looks& looks)
+    : DrawWidth(changes, looks.drawWidth),
+      BackColor(changes, looks.backColor),
+      ForeColor(changes, looks.foreColor),
+      self_(self),
+      scale_(looks.scale) {}
+
+void Container::RestoreSurface(const Looks& looks) {
+  Cls();
+  DrawWidth = looks.drawWidth;
+  BackColor = looks.backColor;
+  ForeColor = looks.foreColor;
+  // The children are given their start places in this scale next, so they need no conversion here.
+  scale_ = looks.scale;
+}
+
+void Container::Rescale(const Scale& scale) {
+  if (scale_.unitAcross != scale.unitAcross || scale_.unitDown != scale.unitDown) {
+    for (Object* child : children_) child->ConvertPlace(scale_, scale);
+  }
+  scale_ = scale;
+}
+
+void Container::PSet(double x, double y) {
+  PSet(x, y, ForeColor);
+}
+
+void Container::PSet(double x, double y, Colour colour) {
+  const double left = x * scale_.unitAcross;
+  const double top = y * scale_.unitDown;
+  const double reach = DrawWidth * twipsPerPixel / 2;
+  const bool inside =
+      left + reach > 0 && left - reach < InnerWidth() && top + reach > 0 && top - reach < InnerHeight();
+  if (inside) dots_.push_back({x, y, left, top, colour, DrawWidth});
+}
+
+void Container::Cls() {
+  dots_.clear();
+  ++wipes_;
+}
+
+void Container::JoinInFrontOfItsKind(Object& child) {
+  const auto sameKind = [&](const Object* other) { return other->kind() == child.kind(); };
+  children_.insert(std::find_if(children_.begin(), children_.end(), sameKind), &child);
+  ++childrenChanges_;
+}
+
+void Container::Leave(Object& child) {
+  std::erase(children_, &child);
+  ++childrenChanges_;
+}
+
+}  // namespace quintara

@@ -1,0 +1,195 @@
+#include "scene/input.h"
+
+#include <limits>
+#include <string>
+
+#include "scene/scene.h"
+
+namespace quintara {
+namespace {
+
+Dispatcher& DispatcherOf(Object& object) {
+  return object.form().scene().dispatcher();
+}
+
+// A disabled object that can still be seen: its containers are enabled, it is not.
+bool CanBeUsed(const Object& object) {
+  return IsShown(object) && object.IsEnabled();
+}
+
+// Runs one piece of the user's input on an object, unless the object can't be reached when its turn comes.
+template <typename Action>
+InputResult Use(Object& object, Action action) {
+  const auto run = [&object, action] {
+    if (CanBeUsed(object)) action();
+  };
+  if (!DispatcherOf(object).busy() && !CanBeUsed(object)) return InputResult::NoTarget;
+  DispatcherOf(object).Run(object.form(), run);
+  return InputResult::Done;
+}
+
+bool TakesMouse(const Object& object) {
+  switch (object.kind()) {
+    case Kind::Line:
+    case Kind::Shape:
+    case Kind::Timer:
+    case Kind::Menu: return false;
+    default: return object.IsEnabled();
+  }
+}
+
+void RaiseClick(Object& object) {
+  if (auto* button = dynamic_cast<Button*>(&object)) button->Click.Raise();
+  if (auto* image = dynamic_cast<Image*>(&object)) image->Click.Raise();
+}
+
+void RaiseMouseMove(Object& object) {
+  if (auto* button = dynamic_cast<Button*>(&object)) button->MouseMove.Raise();
+  if (auto* image = dynamic_cast<Image*>(&object)) image->MouseMove.Raise();
+  if (auto* picture = dynamic_cast<PictureBox*>(&object)) picture->MouseMove.Raise();
+}
+
+bool Contains(const Rectangle& area, double left, double top) {
+  return left >= area.left && left < area.left + area.width && top >= area.top &&
+         top < area.top + area.height;
+}
+
+// The front-most visible and enabled child there: those with a surface of their own stand in front of the
+// others.
+Box* ChildAt(const Container& container, double left, double top) {
+  for (const bool graphical : {false, true}) {
+    for (Object* child : container.children()) {
+      if (IsGraphical(child->kind()) != graphical || !child->IsVisible() || !TakesMouse(*child)) continue;
+      auto* box = static_cast<Box*>(child);
+      if (Contains(box->Surface(), left, top)) return box;
+    }
+  }
+  return nullptr;
+}
+
+template <typename Number>
+Number Towards(BarEnd end, Number value, Number min, Number max, Number step) {
+  const std::int64_t target = end == BarEnd::Min ? min : max;
+  const std::int64_t other = end == BarEnd::Min ? max : min;
+  const std::int64_t moved = std::int64_t{value} + (target > other ? step : -std::int64_t{step});
+  const bool beyond = target > other ? moved > target : moved < target;
+  return static_cast<Number>(beyond ? target : moved);
+}
+
+InputResult Step(ScrollBar& bar, BarEnd end, std::int16_t step) {
+  return Use(bar, [&bar, end, step] { bar.Value = Towards(end, bar.Value.Get(), bar.Min, bar.Max, step); });
+}
+
+std::string Utf8Of(std::int32_t character) {
+  const auto code = static_cast<std::uint32_t>(character);
+  const auto tail = [](std::uint32_t bits) { return static_cast<char>(0x80 | (bits & 0x3F)); };
+  const auto head = [](std::uint32_t bits) { return static_cast<char>(bits); };
+  if (code < 0x80) return {head(code)};
+  if (code < 0x800) return {head(0xC0 | code >> 6), tail(code)};
+  if (code < 0x10000) return {head(0xE0 | code >> 12), tail(code >> 6), tail(code)};
+  return {head(0xF0 | code >> 18), tail(code >> 12), tail(code >> 6), tail(code)};
+}
+
+std::string WithoutLastCharacter(std::string text) {
+  const auto isTail = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; };
+  while (!text.empty() && isTail(text.back())) text.pop_back();
+  if (!text.empty()) text.pop_back();
+  return text;
+}
+
+bool IsCharacter(std::int32_t code) {
+  const bool surrogate = code >= 0xD800 && code <= 0xDFFF;
+  return code >= 32 && code != 127 && code <= 0x10FFFF && !surrogate;
+}
+
+}  // namespace
+
+Object* MouseReceiver(Object& object) {
+  if (!IsShown(object)) return nullptr;
+  Object* at = &object;
+  while (at->container() != nullptr && !TakesMouse(*at)) at = &at->container()->object();
+  return at;
+}
+
+Object* ObjectAt(Form& form, double left, double top) {
+  Object* receiver = &form;
+  Container* container = &form;
+  while (container != nullptr) {
+    Box* child = ChildAt(*container, left, top);
+    if (child == nullptr) break;
+    receiver = child;
+    left -= child->Surface().left;
+    top -= child->Surface().top;
+    container = dynamic_cast<Container*>(child);
+  }
+  return receiver;
+}
+
+InputResult UserClicks(Object& object) {
+  return Use(object, [&object] { RaiseClick(object); });
+}
+
+InputResult UserMovesOnto(Object& object) {
+  if (!IsShown(object)) return InputResult::NoTarget;
+  DispatcherOf(object).Run(object.form(), [&object] {
+    if (Object* receiver = MouseReceiver(object)) RaiseMouseMove(*receiver);
+  });
+  return InputResult::Done;
+}
+
+InputResult UserDragsTo(ScrollBar& bar, std::int16_t value) {
+  return Use(bar, [&bar, value] { bar.Value = value; });
+}
+
+InputResult UserDragsTo(Slider& slider, std::int32_t value) {
+  return Use(slider, [&slider, value] {
+    slider.Value = value;
+    slider.Scroll.Raise();
+  });
+}
+
+InputResult UserPressesArrow(ScrollBar& bar, BarEnd end) {
+  return Step(bar, end, bar.SmallChange);
+}
+InputResult UserPressesTrough(ScrollBar& bar, BarEnd end) {
+  return Step(bar, end, bar.LargeChange);
+}
+
+InputResult UserPressesTrough(Slider& slider, BarEnd end) {
+  return Use(slider, [&slider, end] {
+    const std::int32_t value = Towards(end, slider.Value.Get(), slider.Min, slider.Max, slider.LargeChange);
+    if (value == slider.Value) return;
+    slider.Value = value;
+    slider.Scroll.Raise();
+  });
+}
+
+InputResult UserTypes(TextBox& box, std::int32_t character) {
+  return Use(box, [&box, character] {
+    constexpr std::int32_t backspace = 8;
+    const bool fits = character >= 0 && character <= std::numeric_limits<std::int16_t>::max();
+    // A character beyond 16 bits is none that a handler asks for.
+    box.KeyPress.Raise(static_cast<std::int16_t>(fits ? character : 0));
+    if (!IsShown(box)) return;
+    if (character == backspace) box.Text = WithoutLastCharacter(box.Text);
+    if (IsCharacter(character)) box.Text = box.Text.Get() + Utf8Of(character);
+  });
+}
+
+InputResult UserEdits(TextBox& box, std::string_view text) {
+  std::string line(text);
+  for (char& c : line) {
+    if (c == '\r' || c == '\n') c = ' ';
+  }
+  return Use(box, [&box, line] { box.Text = line; });
+}
+
+InputResult UserSelects(RichTextBox& box, std::int32_t start, std::int32_t length) {
+  return Use(box, [&box, start, length] { box.Select(start, length); });
+}
+
+InputResult UserCloses(Form& form) {
+  return Use(form, [&form] { form.Unload(); });
+}
+
+}  // namespace quintara

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "scene/box.h"
+#include "scene/container.h"
+#include "scene/event.h"
+
+namespace quintara {
+
+// What a picture box shows: nothing, an embedded picture, or a file below the program's folder.
+struct Picture {
+  std::string name;  // empty: no picture
+  bool isFile = false;
+
+  friend bool operator==(const Picture&, const Picture&) = default;
+};
+
+struct PictureBoxLooks {
+  bool visible = true;
+  std::string_view picture = "";  // the name of an embedded picture
+  Colour backColor = colours::buttonFace;
+  Colour foreColor = colours::buttonText;
+  std::int16_t drawWidth = 1;
+  Scale scale{};
+};
+
+// A surface within a surface: a background, a picture drawn from its top left corner at its natural size, and
+// a drawing layer. It clips its children and hides everything behind it.
+class PictureBox : public Box, public Container {
+ public:
+  PictureBox(quintara::Container& container, const ObjectName& name, const Rectangle& place,
+             const PictureBoxLooks& looks = {});
+
+  Property<quintara::Picture> Picture;
+  Event<> MouseMove;
+
+  double InnerWidth() const override { return Surface().width; }
+  double InnerHeight() const override { return Surface().height; }
+  void Restore() override;
+
+ private:
+  Rectangle place_;
+  PictureBoxLooks looks_;
+};
+
+}  // namespace quintara

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "scene/chance.h"
+#include "scene/dispatcher.h"
+#include "scene/files.h"
+#include "scene/picture_box.h"
+#include "scene/platform.h"
+
+namespace quintara {
+
+// The retained model of a running program: its forms, their timers and dispatcher, and the way to the world
+// outside. It knows nothing of a display; a front end reads it and hands the user's input in (see input.h).
+class Scene {
+ public:
+  explicit Scene(Platform& platform);
+  Scene(const Scene&) = delete;
+  Scene& operator=(const Scene&) = delete;
+
+  Platform& platform() const { return platform_; }
+  Dispatcher& dispatcher() { return dispatcher_; }
+  Chance& chance() { return chance_; }
+  const Files& files() const { return files_; }
+
+  // All forms of the program, and those loaded now in the order of their loading.
+  const std::vector<Form*>& forms() const { return forms_; }
+  const std::vector<Form*>& loadedForms() const { return loadedForms_; }
+
+  // Stops the program at once. No QueryUnload runs; all forms vanish.
+  void End();
+  bool ended() const { return ended_; }
+
+  // App.Path: the program's folder without a trailing separator, except at a drive's root.
+  std::string AppPath() const { return appPath_; }
+  // The size of the screen in twips.
+  Single ScreenWidth() const { return platform_.ScreenWidth(); }
+  Single ScreenHeight() const { return platform_.ScreenHeight(); }
+
+  Single Rnd() { return chance_.Rnd(); }
+  void Randomize() { chance_.Randomize(platform_.Seed()); }
+
+  // Starts a wave file given by its full path and returns at once. The flags are always 1, which says just
+  // that.
+  void sndPlaySoundA(const std::string& path, std::int32_t flags);
+  void Beep() { platform_.Beep(); }
+  // Shows a modal box; returns the number of the button chosen.
+  std::int32_t MsgBox(const std::string& text, std::int32_t buttons, const std::string& title);
+  // Tells the player of something that went wrong and that the game goes on without.
+  void TellFault(const std::string& text);
+
+  // Shows a bitmap file in a box. One that can't be read leaves the box as it is.
+  void LoadPictureInto(PictureBox& box, std::string_view path) const;
+
+ private:
+  friend class Form;
+  void Join(Form& form) { forms_.push_back(&form); }
+  void Leave(Form& form);
+  void NoteLoaded(Form& form) { loadedForms_.push_back(&form); }
+  void NoteUnloaded(Form& form);
+
+  Platform& platform_;
+  std::string appPath_;
+  Files files_;
+  Dispatcher dispatcher_;
+  Chance chance_;
+  std::vector<Form*> forms_;
+  std::vector<Form*> loadedForms_;
+  bool ended_ = false;
+};
+
+}  // namespace quintara

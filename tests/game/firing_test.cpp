@@ -1,0 +1,186 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "tests/support/game.h"
+
+namespace quintara {
+namespace {
+
+class FiringTest : public ::testing::Test, protected RunningGame {
+ protected:
+  FiringTest() {
+    Start();
+    form.Picture5.Visible = true;
+    form.Picture8.Visible = true;
+  }
+  void Lay(const char* elevation, const char* velocity) {
+    form.Label1.Caption = elevation;
+    form.Label6.Caption = velocity;
+  }
+};
+
+TEST_F(FiringTest, TheFirstTickOfAShell) {
+  Click(form.Image7);
+  EXPECT_EQ(platform.log, std::vector<std::string>{"sound biggun.wav"});
+  EXPECT_EQ(form.gSoundFlags, 1);
+  EXPECT_TRUE(form.Line12.Visible);
+  EXPECT_EQ(form.Label21.Caption, "2");
+  EXPECT_EQ(form.Label25.Caption, "1");
+  EXPECT_FALSE(form.Shape6(4).Visible);
+  Advance(16);
+  EXPECT_FALSE(form.Shape1(0).Visible);
+  Advance(1);
+  EXPECT_EQ(form.gDt, Single(0.885));
+  EXPECT_NEAR(form.gVx, 216.5, 0.05);
+  EXPECT_NEAR(form.gVy, 116.3, 0.05);
+  EXPECT_NEAR(form.gPosX, 191.6, 0.05);
+  EXPECT_NEAR(form.gPosY, 99.1, 0.05);
+  EXPECT_NEAR(form.Shape1(0).Left, 83.92, 0.01);
+  EXPECT_EQ(form.Shape1(0).Top, Single(9250 - form.gPosY * 0.55));
+  EXPECT_EQ(form.Shape1(1).Left, Single(form.gPosX * 0.438 - 790));
+  EXPECT_EQ(form.Shape1(1).Top, Single(640 - form.gPosY * 0.55));
+  EXPECT_TRUE(form.Shape1(0).Visible && form.Shape1(1).Visible && form.Line8.Visible && form.Line9.Visible);
+  EXPECT_EQ(form.Line8.X1, Single(form.Shape1(0).Left + 380));
+  EXPECT_EQ(form.Line9.Y2, form.Shape1(0).Top);
+}
+
+TEST_F(FiringTest, EachLineOfTheStepRoundsToSingle) {
+  // The nine lines on plain numbers, each rounded by a store into a float.
+  Lay("45", "500");
+  form.Label15.Caption = "0.007";
+  Click(form.Image7);
+  const float dt = static_cast<float>(15 * 0.059);
+  const float elevation = static_cast<float>(45 * 3.1416 / 180);
+  float vx = static_cast<float>(500.0 * std::cos(static_cast<double>(elevation)));
+  float vy = static_cast<float>(500.0 * std::sin(static_cast<double>(elevation)));
+  float x = 0, y = 0, time = 0;
+  for (int step = 0; step < 20; ++step) {
+    const auto d = [](float f) { return static_cast<double>(f); };
+    const auto drag =
+        static_cast<float>(((0.007 * 0.001) * std::sqrt(d(vx) * d(vx) + d(vy) * d(vy))) * d(vx));
+    const auto ax = -drag;
+    const auto ay = static_cast<float>(-9.8 - d(drag));
+    vx = static_cast<float>(d(ax) * d(dt) + d(vx));
+    vy = static_cast<float>(d(ay) * d(dt) + d(vy));
+    x = static_cast<float>((d(vx) * d(dt) + d(x)) + d(dt) * d(dt) * (0.5 * d(ax)));
+    y = static_cast<float>((d(vy) * d(dt) + d(y)) + d(dt) * d(dt) * (0.5 * d(ay)));
+    time = static_cast<float>(d(time) + d(dt));
+    Advance(17);
+    ASSERT_EQ(form.gDragTerm.Stored(), drag) << step;
+    ASSERT_EQ(form.gVx.Stored(), vx) << step;
+    ASSERT_EQ(form.gVy.Stored(), vy) << step;
+    ASSERT_EQ(form.gPosX.Stored(), x) << step;
+    ASSERT_EQ(form.gPosY.Stored(), y) << step;
+    ASSERT_EQ(form.gFlightTime.Stored(), time) << step;
+  }
+}
+
+TEST_F(FiringTest, DragTakesTheSameTermOffBothAxes) {
+  form.gVx = 100.0;
+  form.gVy = 100.0;
+  form.gDt = 0.059;
+  const FlightVariables v{form.gDragTerm, form.gAx,   form.gAy,   form.gVx,         form.gVy,
+                          form.gSpeed,    form.gPosX, form.gPosY, form.gFlightTime, form.gDt};
+  BallisticStep(v, 0.01);
+  EXPECT_NEAR(form.gDragTerm, 0.1414, 0.0001);
+  EXPECT_NEAR(form.gAx, -0.1414, 0.0001);
+  EXPECT_NEAR(form.gAy, -9.9414, 0.0001);
+}
+
+TEST_F(FiringTest, TheFlashGoesAfter400Milliseconds) {
+  Click(form.Image7);
+  Advance(399);
+  EXPECT_TRUE(form.Line12.Visible);
+  Advance(1);
+  EXPECT_FALSE(form.Line12.Visible);
+  EXPECT_FALSE(form.Timer1.Enabled);
+}
+
+TEST_F(FiringTest, TheFlightTimeSettingCountsFromTheNextStep) {
+  Lay("60", "700");
+  Click(form.Image7);
+  Advance(17);
+  const double before = form.gFlightTime;
+  form.HScroll1.Value = 1;
+  Advance(17);
+  EXPECT_EQ(form.gFlightTime, Single(before + Single(0.059)));
+}
+
+TEST_F(FiringTest, TheHeightBarStaysAtTheSummit) {
+  Lay("80", "300");
+  Click(form.Image7);
+  double highest = 0;
+  for (int i = 0; i < 50; ++i) {
+    Advance(17);
+    highest = std::max(highest, static_cast<double>(form.gPosY));
+  }
+  EXPECT_LT(form.gVy, 0);
+  EXPECT_NEAR(form.Line9.Y2, 9250 - highest * 0.55, 40) << "it stops one step short of the turn at most";
+  EXPECT_EQ(form.Line9.Y1, 9105);
+  EXPECT_EQ(form.Line8.X2, 480);
+  EXPECT_EQ(form.Line8.X1, Single(form.Shape1(0).Left + 380));
+}
+
+TEST_F(FiringTest, ASecondClickInFlightStartsTheNextShellFromTheGun) {
+  Lay("60", "700");
+  Click(form.Image7);
+  Advance(170);
+  Click(form.Image7);
+  EXPECT_EQ(form.gPosX, 0);
+  EXPECT_EQ(form.gFlightTime, 0);
+  EXPECT_EQ(form.Label21.Caption, "3");
+  EXPECT_EQ(form.Label25.Caption, "2");
+  EXPECT_FALSE(form.Shape6(3).Visible);
+  EXPECT_TRUE(form.Shape6(2).Visible);
+}
+
+TEST_F(FiringTest, FiveShellsAndTheBonusShell) {
+  for (int shell = 1; shell <= 4; ++shell) Click(form.Image7);
+  form.Label1.Caption = "45";
+  Click(form.Image7);
+  EXPECT_EQ(form.Label21.Caption, "6");
+  EXPECT_EQ(form.Label25.Caption, "5");
+  for (std::int16_t i = 0; i <= 4; ++i) EXPECT_FALSE(form.Shape6(i).Visible);
+  EXPECT_FALSE(form.cmdReset.Enabled);
+  form.Picture5.PSet(100, 100);
+  form.Picture11.PSet(100, 100);
+  Click(form.Image7);
+  EXPECT_EQ(form.Label21.Caption, "6");
+  EXPECT_FALSE(form.Label21.Visible);
+  EXPECT_EQ(form.Label25.Caption, "6");
+  EXPECT_FALSE(form.Image6.Visible);
+  EXPECT_TRUE(form.Picture5.dots().empty() && form.Picture11.dots().empty());
+  EXPECT_TRUE(form.cmdReset.Enabled);
+  EXPECT_EQ(form.Label4.Caption, " Click Reset to start a new game");
+  EXPECT_FALSE(form.Image7.Enabled || form.VScroll1.Enabled || form.VScroll2.Enabled ||
+               form.cmdAdvanced.Enabled);
+  EXPECT_TRUE(form.tmrShell.Enabled);
+  EXPECT_EQ(UserClicks(form.Image7), InputResult::NoTarget);
+}
+
+TEST_F(FiringTest, TheRingLightsUpUnderThePointer) {
+  UserMovesOnto(form.Image7);
+  EXPECT_EQ(form.Shape5.BorderColor.Get(), Colour(0xFFFFFF));
+  UserMovesOnto(form.Picture8);
+  EXPECT_EQ(form.Shape5.BorderColor.Get(), Colour(0x808080));
+  UserMovesOnto(form.Image7);
+  form.cmdReset.Enabled = true;
+  UserMovesOnto(form.cmdReset);
+  EXPECT_EQ(form.Shape5.BorderColor.Get(), Colour(0x808080));
+  form.Image7.Enabled = false;
+  form.Shape5.BorderColor = 0xFFFFFF;
+  UserMovesOnto(form.Image7);
+  EXPECT_EQ(form.Shape5.BorderColor.Get(), Colour(0x808080))
+      << "a dead button lets the pointer through to the console";
+}
+
+TEST_F(FiringTest, ASilencedGunFiresAllTheSame) {
+  form.gSoundOff = 1;
+  Click(form.Image7);
+  EXPECT_TRUE(platform.log.empty());
+  EXPECT_TRUE(form.tmrShell.Enabled);
+}
+
+}  // namespace
+}  // namespace quintara

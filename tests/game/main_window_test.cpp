@@ -1,0 +1,105 @@
+#include <gtest/gtest.h>
+
+#include "tests/support/game.h"
+
+namespace quintara {
+namespace {
+
+class MainWindowTest : public ::testing::Test, protected RunningGame {};
+
+TEST_F(MainWindowTest, StartsInTheWaitingState) {
+  program.Start();
+  EXPECT_EQ(platform.log, std::vector<std::string>{"show Quintara"});
+  EXPECT_TRUE(form.Picture2.Visible);
+  for (const PictureBox* box : {&form.Picture5, &form.Picture6, &form.Picture7, &form.Picture8})
+    EXPECT_FALSE(box->Visible);
+  EXPECT_TRUE(form.cmdSearch.Enabled);
+  EXPECT_FALSE(form.cmdMagnify.Enabled);
+  EXPECT_FALSE(form.cmdReset.Enabled);
+  EXPECT_EQ(370 - form.VScroll1.Value, Val(form.Label1.Caption));
+  EXPECT_EQ(form.VScroll2.Value, Val(form.Label6.Caption));
+  EXPECT_EQ(form.Left, (28800.0 - 15315) / 2);
+  EXPECT_EQ(form.Top, (16200.0 - 11070) / 2 - 200);
+  EXPECT_EQ(form.mnuHelp.items().size(), 12u);
+}
+
+TEST_F(MainWindowTest, LoadLaysTheScopeGridAndTheShellMarks) {
+  Start();
+  for (std::int16_t i = 1; i <= 4; ++i) {
+    EXPECT_TRUE(form.Line1(i).Visible);
+    EXPECT_EQ(form.Line1(i).X2, 680);
+    EXPECT_TRUE(form.Shape6(i).Visible);
+    EXPECT_EQ(form.Shape6(i).Left, 2720);
+  }
+  const double rows[] = {60, 150, 240, 330, 420};
+  const double columns[] = {80, 170, 260, 350, 440, 530, 620};
+  const double marks[] = {700, 600, 465, 330, 195};
+  for (std::int16_t i = 0; i <= 4; ++i) {
+    EXPECT_EQ(form.Line1(i).Y1, rows[i]);
+    EXPECT_EQ(form.Line1(i).Y2, rows[i]);
+    EXPECT_EQ(form.Shape6(i).Top, marks[i]);
+  }
+  for (std::int16_t i = 0; i <= 6; ++i) {
+    EXPECT_EQ(form.Line7(i).X1, columns[i]);
+    EXPECT_EQ(form.Line7(i).X2, columns[i]);
+    EXPECT_EQ(form.Line7(i).Y2, 480);
+  }
+}
+
+TEST_F(MainWindowTest, DrawsTheFragmentWidths) {
+  for (const double value : {0.0, 0.5, 0.999, 0.021, 0.0199}) chance.Queue(value);
+  Start();
+  EXPECT_EQ(form.shpExplode1.Width, 30);
+  EXPECT_EQ(form.shpExplode2.Width, 55);
+  EXPECT_EQ(form.shpExplode3.Width, 79);
+  EXPECT_EQ(form.shpExplode4.Width, 31);
+  EXPECT_EQ(form.shpExplode5.Width, 30);
+  EXPECT_EQ(form.shpExplode5.Height, 80) << "the height stays";
+}
+
+TEST_F(MainWindowTest, StoresTheFlightTimeSettingAtEachStart) {
+  std::ofstream(folder.path() / "extra.txt") << std::string(40, '#') << "7         ";
+  Start();
+  EXPECT_EQ(Bytes("extra.txt"), std::string(40, '#') + "15        ");
+}
+
+TEST_F(MainWindowTest, TellsWhenTheSettingCannotBeStoredAndPlaysOn) {
+  std::filesystem::create_directory(folder.path() / "extra.txt");
+  program.Start();
+  ASSERT_EQ(platform.log.size(), 2u);
+  EXPECT_NE(platform.log[0].find("extra.txt"), std::string::npos);
+  EXPECT_EQ(platform.log[1], "show Quintara");
+  EXPECT_TRUE(std::filesystem::is_directory(folder.path() / "extra.txt"));
+}
+
+TEST(AppFolder, EndsInOneSeparator) {
+  const struct {
+    std::string path, joined;
+  } cases[] = {
+      {"C:\\", "C:\\"}, {"C:\\Games\\Quintara", "C:\\Games\\Quintara\\"}, {"/no/such", "/no/such\\"}};
+  for (const auto& [path, joined] : cases) {
+    RecordingPlatform platform(path);
+    Program program(platform);
+    program.Start();
+    EXPECT_EQ(program.quintara().gAppPath, joined);
+  }
+}
+
+TEST_F(MainWindowTest, CancelEndsAtOnce) {
+  Start();
+  Click(form.cmdCancel);
+  EXPECT_EQ(platform.log, std::vector<std::string>{"end"});
+}
+
+TEST_F(MainWindowTest, TwoGamesSideBySideShareNothing) {
+  RunningGame other;
+  Start();
+  other.Start();
+  form.HScroll1.Value = 3;
+  form.gSoundOff = 1;
+  EXPECT_EQ(other.form.HScroll1.Value, 15);
+  EXPECT_EQ(other.form.gSoundOff, 0);
+}
+
+}  // namespace
+}  // namespace quintara

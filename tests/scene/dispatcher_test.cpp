@@ -1,0 +1,166 @@
+#include "scene/dispatcher.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "tests/scene/scene_form.h"
+
+namespace quintara {
+namespace {
+
+class DispatcherTest : public ::testing::Test, protected TrialScene {
+ protected:
+  DispatcherTest() {
+    form.Early.Enabled = false;
+    Note(form.Clock, 'c');
+    Note(form.Other, 'o');
+  }
+
+  void Note(Timer& timer, char letter) {
+    timer.Tick.Bind([this, letter] { ticks.push_back(letter + std::to_string(dispatcher.now())); });
+  }
+  void Start(Timer& timer, std::int32_t interval) {
+    timer.Interval = interval;
+    timer.Enabled = true;
+  }
+
+  std::vector<std::string> ticks;
+};
+
+using Ticks = std::vector<std::string>;
+
+TEST_F(DispatcherTest, TicksInRhythmWhicheverPropertyIsSetFirst) {
+  form.Clock.Enabled = true;
+  dispatcher.AdvanceTo(1000);
+  EXPECT_EQ(ticks, Ticks{}) << "an interval of 0 is silent";
+  form.Clock.Interval = 400;
+  dispatcher.AdvanceTo(1900);
+  EXPECT_EQ(ticks, (Ticks{"c1400", "c1800"}));
+  form.Clock.Enabled = true;
+  dispatcher.AdvanceTo(2200);
+  EXPECT_EQ(ticks.back(), "c2200") << "turning on a timer that is on changes nothing";
+  dispatcher.AdvanceTo(2500);
+  form.Clock.Interval = 400;
+  dispatcher.AdvanceTo(2899);
+  EXPECT_EQ(ticks.size(), 3u) << "writing the interval starts the wait afresh, the same number too";
+  dispatcher.AdvanceTo(2900);
+  EXPECT_EQ(ticks.back(), "c2900");
+}
+
+TEST_F(DispatcherTest, TurningOffAndOnStartsTheWaitAfresh) {
+  Start(form.Clock, 100);
+  dispatcher.AdvanceTo(60);
+  form.Clock.Enabled = false;
+  form.Clock.Enabled = true;
+  dispatcher.AdvanceTo(159);
+  EXPECT_TRUE(ticks.empty());
+  dispatcher.AdvanceTo(160);
+  EXPECT_EQ(ticks, Ticks{"c160"});
+}
+
+TEST_F(DispatcherTest, OrdersTicksOfTheSameMoment) {
+  Start(form.Clock, 1000);
+  Start(form.Other, 100);
+  dispatcher.AdvanceTo(1000);
+  ASSERT_EQ(ticks.size(), 11u);
+  EXPECT_EQ(ticks[9], "o1000") << "ten ticks of 100 ms belong to the second before the one that ends it";
+  EXPECT_EQ(ticks[10], "c1000");
+
+  ticks.clear();
+  form.Other.Interval = 50;
+  form.Clock.Interval = 50;
+  dispatcher.AdvanceTo(1100);
+  EXPECT_EQ(ticks, (Ticks{"o1050", "c1050", "o1100", "c1100"}))
+      << "equal intervals: the wait that began first";
+}
+
+TEST_F(DispatcherTest, AHandlerStopsItsOwnTimerForGood) {
+  Start(form.Clock, 17);
+  bool ranOn = false;
+  form.Clock.Tick.Bind([&] {
+    form.Clock.Enabled = false;
+    dispatcher.PassTime(100);  // a tick would have fallen due meanwhile
+    ranOn = true;
+  });
+  dispatcher.AdvanceTo(1000);
+  EXPECT_TRUE(ranOn);
+  EXPECT_FALSE(dispatcher.NextDue().has_value());
+}
+
+TEST_F(DispatcherTest, ALongHandlerLosesAllTicksButOne) {
+  Start(form.Clock, 17);
+  bool first = true;
+  form.Clock.Tick.Bind([&] {
+    ticks.push_back(std::to_string(dispatcher.now()));
+    if (first) dispatcher.PassTime(2000);
+    first = false;
+  });
+  dispatcher.AdvanceTo(2060);
+  EXPECT_EQ(ticks, (Ticks{"17", "2017", "2023", "2040", "2057"})) << "one at once, then the usual rhythm";
+}
+
+TEST_F(DispatcherTest, AMachineHeldUpLosesTicksToo) {
+  Start(form.Clock, 17);
+  Start(form.Other, 400);
+  dispatcher.PassTime(10'000'000);
+  dispatcher.AdvanceTo(dispatcher.now());
+  EXPECT_EQ(ticks, (Ticks{"c10000000", "o10000000"}));
+}
+
+TEST_F(DispatcherTest, RunsOneHandlerAtATime) {
+  std::vector<std::string> order;
+  dispatcher.Run(form, [&] {
+    dispatcher.Run(form, [&] { order.push_back("input that came meanwhile"); });
+    dispatcher.AdvanceTo(10'000);
+    EXPECT_TRUE(dispatcher.busy());
+    order.push_back("the handler's last line");
+  });
+  EXPECT_EQ(order, (std::vector<std::string>{"the handler's last line", "input that came meanwhile"}));
+  EXPECT_EQ(dispatcher.now(), 0) << "no time passes for ticks while a handler runs";
+}
+
+TEST_F(DispatcherTest, UnloadingDropsTimersAndWaitingInput) {
+  other.Show();
+  Start(other.Clock, 10);
+  Note(other.Clock, 'x');
+  bool dropped = true;
+  dispatcher.Run(form, [&] {
+    dispatcher.Run(other, [&] { dropped = false; });
+    other.Unload();
+  });
+  dispatcher.AdvanceTo(100);
+  EXPECT_TRUE(dropped);
+  EXPECT_TRUE(ticks.empty());
+  other.Show();
+  dispatcher.AdvanceTo(5000);
+  EXPECT_TRUE(ticks.empty()) << "the timer is off again, as in its form's table";
+}
+
+TEST_F(DispatcherTest, ATimerThatStartsEnabledWaitsFromTheLoading) {
+  dispatcher.AdvanceTo(700);
+  Note(other.Early, 'e');
+  other.Show();
+  dispatcher.AdvanceTo(1699);
+  EXPECT_TRUE(ticks.empty());
+  dispatcher.AdvanceTo(1700);
+  EXPECT_EQ(ticks, Ticks{"e1700"});
+}
+
+TEST_F(DispatcherTest, NothingRunsAfterTheEnd) {
+  Start(form.Clock, 10);
+  bool finished = false;
+  dispatcher.Run(form, [&] {
+    scene.End();
+    finished = true;
+  });
+  EXPECT_TRUE(finished) << "the handler that ends the program runs to its end";
+  dispatcher.AdvanceTo(100);
+  dispatcher.Run(form, [&] { ticks.push_back("ran"); });
+  EXPECT_TRUE(ticks.empty());
+  EXPECT_EQ(platform.log, std::vector<std::string>{"end"}) << "no QueryUnload";
+}
+
+}  // namespace
+}  // namespace quintara

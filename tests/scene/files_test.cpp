@@ -1,0 +1,158 @@
+#include "scene/files.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+
+#include "tests/support/recording_platform.h"
+
+namespace quintara {
+namespace {
+
+namespace fs = std::filesystem;
+using Lines = std::vector<std::string>;
+
+// A disk on which chosen steps fail, as on a full one.
+class FailingDisk : public DiskFileSystem {
+ public:
+  bool createFails = false;
+  bool replaceFails = false;
+  std::size_t room = 1'000'000;  // bytes until the disk is full
+
+  bool Create(const fs::path& path, const std::string& bytes) override {
+    const bool whole = DiskFileSystem::Create(path, bytes.substr(0, room)) && bytes.size() <= room;
+    return whole && !createFails;
+  }
+  bool Replace(const fs::path& fresh, const fs::path& old) override {
+    return !replaceFails && DiskFileSystem::Replace(fresh, old);
+  }
+};
+
+class FilesTest : public ::testing::Test {
+ protected:
+  std::string In(const std::string& name) const { return folder.text() + "\\" + name; }
+  std::string Bytes(const std::string& name) const {
+    std::ifstream file(folder.path() / name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+  void Put(const std::string& name, const std::string& bytes) const {
+    std::ofstream(folder.path() / name, std::ios::binary) << bytes;
+  }
+  std::size_t Entries() const {
+    return static_cast<std::size_t>(
+        std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator()));
+  }
+
+  TemporaryFolder folder;
+  FailingDisk disk;
+  Files files{disk, folder.text()};
+};
+
+TEST_F(FilesTest, JoinsNamesWithBackslashesOnEverySystem) {
+  EXPECT_EQ(files.Locate(In("Help\\Rules.rtf")).name, "Help\\Rules.rtf");
+  EXPECT_EQ(files.Locate(In("Help\\Rules.rtf")).path, folder.path() / "Help" / "Rules.rtf");
+  fs::create_directory(folder.path() / "Help");
+  Put("Help/Rules.rtf", "rules");
+  EXPECT_EQ(files.ReadWhole(In("Help\\Rules.rtf")), "rules");
+  EXPECT_EQ(files.ReadWhole(In("Help/Rules.rtf")), "rules");
+  EXPECT_EQ(Files(disk, "/").Locate("/\\extra.txt").path, fs::path("/extra.txt"));
+  const Files odd(disk, "/a\\b");
+  EXPECT_EQ(odd.Locate("/a\\b\\c\\d.txt").path, fs::path("/a\\b/c/d.txt"))
+      << "the folder's own name is left alone";
+}
+
+TEST_F(FilesTest, StoresARecordAmongOthers) {
+  EXPECT_TRUE(files.WriteRecord(In("extra.txt"), 5, "15"));
+  EXPECT_EQ(Bytes("extra.txt"), std::string(40, ' ') + "15        ");
+  EXPECT_TRUE(files.WriteRecord(In("extra.txt"), 2, "a text that is too long"));
+  EXPECT_TRUE(files.WriteRecord(In("extra.txt"), 5, "7"));
+  EXPECT_EQ(Bytes("extra.txt"), std::string(10, ' ') + "a text tha" + std::string(20, ' ') + "7         ");
+  EXPECT_EQ(files.ReadRecord(In("extra.txt"), 5), "7         ");
+  Put("extra.txt", std::string(60, 'x'));
+  EXPECT_TRUE(files.WriteRecord(In("extra.txt"), 5, "3"));
+  EXPECT_EQ(Bytes("extra.txt"), std::string(40, 'x') + "3         " + std::string(10, 'x'));
+  EXPECT_EQ(Entries(), 1u) << "nothing is left beside it";
+}
+
+TEST_F(FilesTest, ReadsWhateverLiesInTheRecordFilesPlace) {
+  EXPECT_EQ(files.ReadRecord(In("extra.txt"), 5), "");
+  Put("extra.txt", std::string(43, '1'));
+  EXPECT_EQ(files.ReadRecord(In("extra.txt"), 5), "111");
+  fs::resize_file(folder.path() / "extra.txt", std::uintmax_t{1} << 32);
+  EXPECT_EQ(files.ReadRecord(In("extra.txt"), 5).size(), 10u);
+  EXPECT_FALSE(files.WriteRecord(In("extra.txt"), 5, "15")) << "a file of 4 GB is none of ours";
+  EXPECT_EQ(fs::file_size(folder.path() / "extra.txt"), std::uintmax_t{1} << 32);
+  fs::remove(folder.path() / "extra.txt");
+  fs::create_directory(folder.path() / "extra.txt");
+  EXPECT_EQ(files.ReadRecord(In("extra.txt"), 5), "");
+  EXPECT_FALSE(files.WriteRecord(In("extra.txt"), 5, "15"));
+}
+
+TEST_F(FilesTest, ReadsLinesWithAnyLineEnd) {
+  EXPECT_FALSE(files.ReadLines(In("Masters.txt")).has_value());
+  Put("Masters.txt", "");
+  EXPECT_EQ(files.ReadLines(In("Masters.txt")), Lines{});
+  Put("Masters.txt", "one\r\n\r\ntwo\rthree\nfour");
+  EXPECT_EQ(files.ReadLines(In("Masters.txt")), (Lines{"one", "", "two", "three", "four"}));
+  EXPECT_TRUE(files.WriteLines(In("Masters.txt"), {"\xff", "", "b"}));
+  EXPECT_EQ(Bytes("Masters.txt"), "\xff\r\n\r\nb\r\n");
+  EXPECT_EQ(files.ReadLines(In("Masters.txt")), (Lines{"\xff", "", "b"}));
+  EXPECT_TRUE(files.WriteLines(In("Masters.txt"), {}));
+  EXPECT_EQ(Bytes("Masters.txt"), "");
+}
+
+TEST_F(FilesTest, AFailedWriteLeavesTheOldFileAndNothingElse) {
+  Put("Masters.txt", "old\r\n");
+  const auto failsAndKeeps = [&] {
+    EXPECT_FALSE(files.WriteLines(In("Masters.txt"), {"new"}));
+    EXPECT_EQ(Bytes("Masters.txt"), "old\r\n");
+    EXPECT_EQ(Entries(), 1u);
+  };
+  disk.createFails = true;
+  failsAndKeeps();
+  disk.createFails = false;
+  disk.room = 2;
+  failsAndKeeps();
+  disk.room = 1000;
+  disk.replaceFails = true;
+  failsAndKeeps();
+  disk.replaceFails = false;
+  fs::permissions(folder.path() / "Masters.txt", fs::perms::owner_read);
+  failsAndKeeps();
+}
+
+TEST_F(FilesTest, WritesBesideWhatAKilledCopyLeft) {
+  for (int round = 0; round < 2; ++round) {
+    for (int i = 0; i < 10; ++i) Put("Masters.txt.new" + std::to_string(i), "half a li");
+    EXPECT_TRUE(files.WriteLines(In("Masters.txt"), {"whole"}));
+    EXPECT_EQ(Bytes("Masters.txt"), "whole\r\n");
+    EXPECT_EQ(Entries(), 1u);
+  }
+}
+
+TEST_F(FilesTest, BoundsWhatItReads) {
+  Put("big", "");
+  fs::resize_file(folder.path() / "big", std::uintmax_t{1} << 36);
+  EXPECT_FALSE(files.ReadWhole(In("big")).has_value());
+  EXPECT_FALSE(files.ReadLines(In("big")).has_value());
+  EXPECT_FALSE(files.ReadWhole(folder.text()).has_value()) << "a folder is no document";
+  EXPECT_FALSE(files.ReadWhole("/dev/zero").has_value()) << "nor does a device hang the game";
+}
+
+TEST_F(FilesTest, KnowsABitmapByItsHeader) {
+  std::string header = "BM" + std::string(28, '\0');
+  header[18] = 49;
+  header[22] = 37;
+  Put("good.bmp", header);
+  EXPECT_TRUE(files.IsBitmap(In("good.bmp")));
+  EXPECT_FALSE(files.IsBitmap(In("missing.bmp")));
+  Put("short.bmp", header.substr(0, 20));
+  EXPECT_FALSE(files.IsBitmap(In("short.bmp")));
+  header[21] = 127;
+  Put("huge.bmp", header);
+  EXPECT_FALSE(files.IsBitmap(In("huge.bmp")));
+}
+
+}  // namespace
+}  // namespace quintara

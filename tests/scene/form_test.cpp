@@ -1,0 +1,247 @@
+#include "scene/form.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "tests/scene/scene_form.h"
+
+namespace quintara {
+namespace {
+
+using Log = std::vector<std::string>;
+
+class FormTest : public ::testing::Test, protected TrialScene {};
+
+TEST_F(FormTest, TheFirstTouchLoadsAndShowShows) {
+  FormHandle<TrialForm> handle(other);
+  EXPECT_FALSE(handle.loaded());
+  handle->Caption = "touched";
+  EXPECT_EQ(other.loads, 1);
+  EXPECT_FALSE(other.IsVisible());
+  EXPECT_TRUE(platform.log.empty());
+  handle->Show();
+  EXPECT_EQ(other.loads, 1);
+  handle->Show();
+  EXPECT_EQ(platform.log, (Log{"show Other", "show Other"}));
+  EXPECT_EQ(other.Caption, "touched");
+}
+
+TEST_F(FormTest, UnloadingRestoresTheStartValuesAndKeepsTheFormsVariables) {
+  other.Touch();  // with the last form the program would end
+  form.member = 42;
+  form.Caption = "changed";
+  form.Left = 500.0;
+  form.Width = 100.0;
+  form.ScaleMode = 3;
+  form.Line1.Load(3);
+  form.Ruler.X1 = 77;
+  form.Names.AddItem("entry");
+  form.Document.TextRTF = "{\\rtf1 text}";
+  form.Bar.Value = 3;
+  form.Clock.Interval = 10;
+  form.Picture1.PSet(10, 10);
+  form.Push.Enabled = false;
+  form.Entry.SetFocus();
+  const TrialForm fresh{scene, "Fresh"};
+  form.Unload();
+  EXPECT_FALSE(form.loaded());
+  form.Touch();
+  EXPECT_EQ(form.loads, 2);
+  EXPECT_EQ(form.member, 42);
+  EXPECT_EQ(form.Caption, "Trial");
+  EXPECT_EQ(form.Left, 0.0);
+  EXPECT_EQ(form.Width, 9090.0);
+  EXPECT_EQ(form.ScaleMode, 1);
+  EXPECT_FALSE(form.Line1.Has(3));
+  EXPECT_EQ(form.objects().size(), fresh.objects().size());
+  EXPECT_EQ(form.children().size(), fresh.children().size());
+  EXPECT_EQ(form.Ruler.X1, 0);
+  EXPECT_EQ(form.Ruler.X2, 9000);
+  EXPECT_EQ(form.Names.ListCount(), 0);
+  EXPECT_EQ(form.Document.PlainText(), "");
+  EXPECT_EQ(form.Bar.Value, 15);
+  EXPECT_EQ(form.Clock.Interval, 0);
+  EXPECT_TRUE(form.Picture1.dots().empty());
+  EXPECT_TRUE(form.Push.Enabled);
+  EXPECT_EQ(form.focus(), nullptr);
+  EXPECT_FALSE(form.IsVisible());
+}
+
+TEST_F(FormTest, UnloadedAndTouchedAgainInsideItsOwnHandler) {
+  FormHandle<TrialForm> self(other);
+  other.Show();
+  other.Push.Click.Bind([&] {
+    other.Push.Caption = "before";
+    self.Unload();
+    self->Push.Enabled = false;  // loads the form again, hidden
+  });
+  platform.log.clear();
+  EXPECT_EQ(UserClicks(other.Push), InputResult::Done);
+  EXPECT_EQ(platform.log, Log{"unload Other"});
+  EXPECT_TRUE(other.loaded());
+  EXPECT_FALSE(other.IsVisible());
+  EXPECT_EQ(other.loads, 2);
+  EXPECT_EQ(other.Push.Caption, "Push");
+  EXPECT_FALSE(other.Push.Enabled);
+}
+
+TEST_F(FormTest, TheProgramEndsWithTheLastForm) {
+  other.Show();
+  form.onQueryUnload = [&] {
+    form.Unload();  // already on its way
+    other.Unload();
+  };
+  platform.log.clear();
+  EXPECT_EQ(UserCloses(form), InputResult::Done);
+  EXPECT_EQ(platform.log, (Log{"unload Other", "unload Trial", "end"}));
+  EXPECT_TRUE(scene.ended());
+  other.Unload();
+  form.Show();
+  EXPECT_EQ(platform.log.size(), 3u) << "nothing comes back";
+}
+
+TEST_F(FormTest, LoadedElementsAreHiddenCopiesInFrontOfTheirKind) {
+  form.Line1(0).X1 = 5;
+  form.Line1(0).BorderColor = 0x00112233;
+  form.Line1.Load(2);
+  form.Line1.Load(1);
+  const Line& line = form.Line1(1);
+  EXPECT_FALSE(line.Visible);
+  EXPECT_EQ(line.X1, 5);
+  EXPECT_EQ(line.Y2, 40);
+  EXPECT_EQ(line.BorderColor.Get(), Colour(0x00112233));
+  EXPECT_EQ(line.looks().borderWidth, 3);
+  EXPECT_EQ(FullName(line), "Line1(1)");
+
+  const auto placeOf = [](const auto& list, const Object& object) {
+    return std::find(list.begin(), list.end(), &object) - list.begin();
+  };
+  EXPECT_LT(placeOf(form.children(), line), placeOf(form.children(), form.Line1(2)));
+  EXPECT_LT(placeOf(form.children(), form.Line1(2)), placeOf(form.children(), form.Line1(0)));
+  EXPECT_EQ(placeOf(form.objects(), line), placeOf(form.objects(), form.Line1(0)) + 1);
+  EXPECT_EQ(placeOf(form.objects(), form.Line1(2)), placeOf(form.objects(), form.Line1(0)) + 2);
+
+  form.Label1.Load(1);
+  EXPECT_EQ(form.Label1(1).container(), &form.Picture1) << "it lies in the container of element 0";
+  form.Line1.Load(1);
+  EXPECT_EQ(&form.Line1(1), &line) << "an element that exists is left as it is";
+  form.Line1.Unload(1);
+  form.Line1.Unload(1);
+  form.Line1.Unload(0);
+  EXPECT_TRUE(form.Line1.Has(0));
+  EXPECT_THROW(form.Line1(1), std::out_of_range);
+  EXPECT_THROW(form.Line1(-1), std::out_of_range);
+}
+
+TEST_F(FormTest, AChangeOfScaleMovesNothing) {
+  form.ScaleMode = 3;
+  EXPECT_EQ(form.Open.Left, 400);
+  EXPECT_EQ(form.ScaleWidth, 600);
+  EXPECT_EQ(form.Button.Left, 1500) << "only direct children are counted anew";
+  form.ScaleWidth = 9000;
+  EXPECT_EQ(form.ScaleMode, 0);
+  EXPECT_EQ(form.Open.Left, 6000);
+  EXPECT_EQ(form.Open.Top, 20) << "the other axis keeps its pixels";
+  form.ScaleHeight = 12000;
+  EXPECT_EQ(form.Open.Top, 600);
+  form.Open.Top = 1200;
+  EXPECT_EQ(form.Open.Surface().top, 600);
+  EXPECT_EQ(form.ScaleHeight, 12000);
+
+  form.ScaleHeight = 0;
+  form.ScaleHeight = -1;
+  form.ScaleMode = 2;
+  EXPECT_EQ(form.ScaleHeight, 12000) << "scales that count nothing are not taken";
+}
+
+TEST_F(FormTest, ThousandsOfChangesOfScaleDoNotDrift) {
+  form.Open.Left = 1234.567;
+  form.Ruler.Y2 = 0.1;
+  const Rectangle start = form.Open.Surface();
+  const double end = form.Ruler.Surface().y2;
+  for (int i = 0; i < 5000; ++i) {
+    form.ScaleMode = 3;
+    form.ScaleWidth = 90000 + i * 0.37;
+    form.ScaleHeight = 70001;
+    EXPECT_EQ(form.Open.Surface().left, start.left);
+  }
+  EXPECT_EQ(form.Ruler.Surface().y2, end);
+  form.ScaleMode = 1;
+  EXPECT_EQ(form.Open.Left, Single(1234.567));
+  EXPECT_EQ(form.Ruler.Y2, Single(0.1));
+}
+
+TEST_F(FormTest, AUserScaleKeepsItsUnitWhenTheFormGrows) {
+  form.ScaleMode = 0;
+  form.Width = form.Width + 1000;
+  EXPECT_EQ(form.Open.Left, 6000);
+  EXPECT_EQ(form.ScaleWidth, 10000);
+}
+
+TEST_F(FormTest, DotsStayUntilClsAndAreClipped) {
+  PictureBox& box = form.Picture1;
+  box.ForeColor = 0x00445566;
+  box.PSet(100, 200);
+  box.DrawWidth = 2;
+  box.PSet(-14, 10, QBColor(6));
+  box.PSet(-15, 10);
+  box.PSet(3014, 10);
+  box.PSet(3015, 10);
+  box.PSet(1e30, 10);
+  ASSERT_EQ(box.dots().size(), 3u);
+  EXPECT_EQ(box.dots()[0].colour, Colour(0x00445566));
+  EXPECT_EQ(box.dots()[0].width, 1);
+  EXPECT_EQ(box.dots()[1].colour, Colour(0x00008080));
+  EXPECT_EQ(box.dots()[1].x, -14);
+  box.Cls();
+  EXPECT_TRUE(box.dots().empty());
+
+  form.ScaleMode = 3;
+  form.PSet(599, 0);
+  form.PSet(601, 0);
+  ASSERT_EQ(form.dots().size(), 1u) << "clipped by the inner area, in the scale in force";
+  EXPECT_EQ(form.dots()[0].leftTwips, 599 * 15);
+}
+
+TEST_F(FormTest, AScrollBarRaisesChangeOnlyForAnotherValue) {
+  std::vector<int> values;
+  form.Bar.Change.Bind([&] { values.push_back(form.Bar.Value); });
+  form.Bar.Value = 15;
+  EXPECT_TRUE(values.empty());
+  form.Bar.Value = 14;
+  EXPECT_EQ(values, std::vector<int>{14});
+  form.Bar.Value = -5;
+  form.Bar.Value = 0;
+  EXPECT_EQ(values, (std::vector<int>{14, 1})) << "kept within its ends";
+  form.Upside.Value = 1000;
+  EXPECT_EQ(form.Upside.Value, 750);
+  form.Ruled.Scroll.Bind([&] { values.push_back(-1); });
+  form.Ruled.Value = 50;
+  EXPECT_EQ(values.size(), 2u) << "a slider written from code raises nothing";
+}
+
+TEST_F(FormTest, APopupRunsTheChosenItem) {
+  int clicks = 0;
+  form.mnuItem.Click.Bind([&] { ++clicks; });
+  form.mnuDivider.Click.Bind([&] { ++clicks; });
+  platform.menuAnswers = {"mnuItem", "mnuDivider"};
+  EXPECT_TRUE(form.PopupMenu(form.mnuTop, 10, 10));
+  EXPECT_FALSE(form.PopupMenu(form.mnuTop, 10, 10)) << "a separator can't be chosen";
+  EXPECT_FALSE(form.PopupMenu(form.mnuTop, 10, 10)) << "dismissed";
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(FormTest, ChangesAreCountedOnlyWhereSomethingChanged) {
+  const ChangeCount before = form.Ruler.changes();
+  form.Ruler.X1 = 0;
+  form.Ruler.Visible = true;
+  EXPECT_EQ(form.Ruler.changes(), before);
+  form.Ruler.X1 = form.Ruler.X2;
+  form.Ruler.BorderColor = 0x00000001;
+  EXPECT_EQ(form.Ruler.changes(), before + 2);
+}
+
+}  // namespace
+}  // namespace quintara

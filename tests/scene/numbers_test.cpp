@@ -1,0 +1,185 @@
+#include "scene/numbers.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "scene/chance.h"
+#include "scene/property.h"
+
+namespace quintara {
+namespace {
+
+TEST(Val, ReadsTheLeadingNumberOfAnyText) {
+  const struct {
+    std::string_view text;
+    double value;
+  } cases[] = {
+      {"", 0},
+      {"  42  ", 42},
+      {"3x", 3},
+      {"15        ", 15},
+      {"0.003", 0.003},
+      {"-29.4", -29.4},
+      {"+7", 7},
+      {" - 5", -5},
+      {"1 5 . 2", 15.2},
+      {".5", 0.5},
+      {"5.", 5},
+      {".", 0},
+      {"-", 0},
+      {"- .", 0},
+      {"abc", 0},
+      {"1e3", 1000},
+      {"1e", 1},
+      {"1e+", 1},
+      {"2E-2km", 0.02},
+      {"1.2.3", 1.2},
+      {"1-2", 1},
+      {"0x10", 0},
+      {"1e400", 1.7976931348623157e308},
+      {"-1e400", -1.7976931348623157e308},
+      {"1e-400", 0},
+      {"9007199254740993", 9007199254740992.0},
+      {"0.1234567890123456789", 0.1234567890123456789},
+      {"100000000000000000000", 1e20},
+      {"\t5", 0},
+      {"\xff\xfe", 0},
+      {"1,5", 1},
+  };
+  for (const auto& [text, value] : cases) EXPECT_EQ(Val(text), value) << text;
+  EXPECT_EQ(Val(std::string(1'000'000, '9')), std::numeric_limits<double>::max());
+  EXPECT_EQ(Val("0." + std::string(1'000'000, '0') + "1"), 0);
+  EXPECT_EQ(Val("1e" + std::string(1000, '9')), std::numeric_limits<double>::max());
+}
+
+TEST(Val, TakesTheShortWayAndTheLongWayToTheSameNumber) {
+  // A trailing letter sends the same digits the long way round.
+  for (int i = 0; i < 200'000; i += 7) {
+    const std::string text = std::to_string(i / 1000) + "." + std::to_string(i % 100'000);
+    ASSERT_EQ(Val(text), Val(text + "x")) << text;
+  }
+}
+
+TEST(ToText, DropsWhatIsNotSignificant) {
+  EXPECT_EQ(ToText(6), "6");
+  EXPECT_EQ(ToText(-5), "-5");
+  for (const char* text :
+       {"30", "0.003", "0.05", "-29.4", "9.37", "0.1", "0.01", "22.052", "1000000", "33.3"}) {
+    EXPECT_EQ(ToText(Single(Val(text))), text);
+    EXPECT_EQ(ToText(Val(text)), text);
+  }
+  EXPECT_EQ(ToText(Single(0.07)), "0.07");
+  EXPECT_EQ(ToText(static_cast<double>(Single(0.07)) * 100), "7.00000002980232");
+  EXPECT_EQ(ToText(0.07 * 100), "7");
+  EXPECT_EQ(ToText(1.0 / 3), "0.333333333333333");
+  EXPECT_EQ(ToText(Single(1.0 / 3)), "0.3333333");
+  EXPECT_EQ(ToText(Single(9999999.5)), "10000000");
+  EXPECT_EQ(ToText(-0.0), "0");
+  EXPECT_EQ(ToText(1e20), "100000000000000000000");
+  EXPECT_EQ(ToText(1e-9), "0.000000001");
+}
+
+TEST(ToText, GivesTheFirstCharactersWithoutRounding) {
+  EXPECT_EQ(Left(ToText(Single(9.3712)), 4), "9.37");
+  EXPECT_EQ(Left(ToText(Single(10.25)), 4), "10.2");
+  EXPECT_EQ(Left(ToText(Single(20)), 4), "20");
+  EXPECT_EQ(Right("C:\\", 1), "\\");
+  EXPECT_EQ(Right("", 1), "");
+}
+
+TEST(Format, RoundsHalvesAwayFromZero) {
+  EXPECT_EQ(Format(0.5, Pattern::Whole), "1");
+  EXPECT_EQ(Format(2.5, Pattern::Whole), "3");
+  EXPECT_EQ(Format(12.5, Pattern::Whole), "13");
+  EXPECT_EQ(Format(-2.5, Pattern::Whole), "-3");
+  EXPECT_EQ(Format(3, Pattern::TwoDecimals), "3.00");
+  EXPECT_EQ(Format(0.125, Pattern::TwoDecimals), "0.13");
+  EXPECT_EQ(Format(-0.125, Pattern::TwoDecimals), "-0.13");
+  EXPECT_EQ(Format(0.05, Pattern::TwoDecimals), "0.05");
+  EXPECT_EQ(Format(123456.78, Pattern::TwoDecimals), "123456.78");
+}
+
+TEST(Format, ShowsNoMinusSignOnZero) {
+  EXPECT_EQ(Format(-0.004, Pattern::TwoDecimals), "0.00");
+  EXPECT_EQ(Format(-0.4, Pattern::Whole), "0");
+  EXPECT_EQ(Format(-0.005, Pattern::TwoDecimals), "0.00") << "the single lies below the half";
+}
+
+TEST(WholeNumbers, RoundAsTheirNamesSay) {
+  EXPECT_EQ(CInt(2.5), 2);
+  EXPECT_EQ(CInt(3.5), 4);
+  EXPECT_EQ(CInt(7.5), 8);
+  EXPECT_EQ(CInt(-2.5), -2);
+  EXPECT_EQ(CLng(90.909), 91);
+  EXPECT_EQ(Int(2.7), 2);
+  EXPECT_EQ(Int(-0.5), -1);
+  EXPECT_EQ(CInt(1e9), 32767);
+  EXPECT_EQ(CInt(-1e9), -32768);
+  EXPECT_EQ(CLng(1e300), 2147483647);
+  EXPECT_EQ(CLng(std::nan("")), 0);
+}
+
+TEST(Single, RoundsOnceAtTheStore) {
+  Single step = 0.059;
+  step = 15 * 0.059;
+  EXPECT_EQ(step.Stored(), 0.885f);
+  const Single third = 1.0 / 3;
+  EXPECT_EQ(third + third, 2 * static_cast<double>(1.0f / 3)) << "sums are worked out in double precision";
+  EXPECT_TRUE(Single(0.1 + 0.2) == Single(0.3)) << "and compared as singles where they are rounded first";
+}
+
+TEST(ExactText, ReadsBackToTheSameSingle) {
+  EXPECT_EQ(ExactText(83.92), "83.92");
+  EXPECT_EQ(ExactText(-0.0), "0");
+  EXPECT_EQ(ExactText(1e10), "10000000000");
+  EXPECT_EQ(ExactText(std::numeric_limits<float>::denorm_min()).substr(0, 5), "0.000");
+  for (const float value : {0.1f, 1.0f / 3, 16777216.0f, 3.4e38f, -7.54e-5f}) {
+    EXPECT_EQ(Single(ReadDecimal(ExactText(static_cast<double>(value))).value()).Stored(), value);
+  }
+  EXPECT_FALSE(ReadDecimal("").has_value());
+  EXPECT_FALSE(ReadDecimal("12x").has_value());
+  EXPECT_FALSE(ReadDecimal("inf").has_value());
+}
+
+TEST(Text, ComparesCharacterByCharacter) {
+  ChangeCount changes = 0;
+  TextProperty shots(changes, "10");
+  EXPECT_TRUE(shots < "5");
+  EXPECT_FALSE(shots == "5");
+  shots = "10";
+  EXPECT_EQ(changes, 0u) << "the same text is no change";
+  shots = "\xC3\xA9";
+  EXPECT_TRUE(shots > "z") << "bytes count as unsigned";
+  EXPECT_EQ(changes, 1u);
+}
+
+TEST(Chance, NeverReachesOneAndCanBeQueued) {
+  Chance chance;
+  chance.Queue(0.25);
+  chance.Queue(0.9999999999);
+  chance.Queue(0);
+  chance.Randomize(1);
+  EXPECT_EQ(chance.Rnd(), 0.25) << "a new seed leaves what is queued";
+  EXPECT_LT(chance.Rnd(), 1.0);
+  EXPECT_EQ(chance.Rnd(), 0.0);
+  double sum = 0;
+  for (int i = 0; i < 100'000; ++i) {
+    const double value = chance.Rnd();
+    ASSERT_TRUE(value >= 0 && value < 1);
+    sum += value;
+  }
+  EXPECT_NEAR(sum / 100'000, 0.5, 0.01);
+}
+
+TEST(Chance, DrawsAfreshFromEachSeed) {
+  Chance chance;
+  chance.Randomize(7);
+  const double first = chance.Rnd();
+  chance.Randomize(7);
+  EXPECT_NE(chance.Rnd(), first) << "two seedings within one tick of a clock do not repeat the draw";
+}
+
+}  // namespace
+}  // namespace quintara
