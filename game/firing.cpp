@@ -16,11 +16,7 @@ void QuintaraForm::Image7_Click() {
   Line24.Visible = false;
   gElevationRad = (Val(Label1.Caption) * 3.1416) / 180;  // 3.1416 is the game's pi
   gMuzzleVelocity = Val(Label6.Caption);
-  gVx = gMuzzleVelocity * Cos(gElevationRad);
-  gVy = gMuzzleVelocity * Sin(gElevationRad);
-  gPosX = 0;
-  gPosY = 0;
-  gFlightTime = 0;
+  StartShell();
   gDt = HScroll1.Value * 0.059;
   tmrShell.Interval = 17;
   tmrShell.Enabled = true;
@@ -32,6 +28,15 @@ void QuintaraForm::Image7_Click() {
 
   CountShell();
   if (Val(Label25.Caption) == 5) PrepareBonusShot();
+}
+
+// Puts a shell into the gun's mouth by the elevation and velocity in force.
+void QuintaraForm::StartShell() {
+  gVx = gMuzzleVelocity * Cos(gElevationRad);
+  gVy = gMuzzleVelocity * Sin(gElevationRad);
+  gPosX = 0;
+  gPosY = 0;
+  gFlightTime = 0;
 }
 
 void QuintaraForm::CountShell() {
@@ -67,13 +72,13 @@ void QuintaraForm::tmrShell_Timer() {
   if (gPosY < 0) {
     // The shell is under ground and nothing was hit: the flight ends, but this tick still runs to its end and
     // may hit something after all.
-    tmrShell.Enabled = false;
-    tmrShell.Interval = 0;
+    StopFlight();
     Shape1(0).Visible = false;
   }
   gDt = HScroll1.Value * 0.059;
   BallisticStep(Flight(), Val(Label15.Caption));
   MoveShell();
+  TestForImpact();
 }
 
 // The shell has two markers, since a picture box hides what lies behind it: Shape1(0) in the open, and

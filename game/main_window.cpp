@@ -48,9 +48,7 @@ void QuintaraForm::LayScopeGrid() {
 
 void QuintaraForm::DrawFragmentWidths() {
   scene().Randomize();
-  for (Shape* fragment : {&shpExplode1, &shpExplode2, &shpExplode3, &shpExplode4, &shpExplode5}) {
-    fragment->Width = Int(scene().Rnd() * 50 + 30);
-  }
+  for (Shape* fragment : Fragments()) fragment->Width = Int(scene().Rnd() * 50 + 30);
 }
 
 // Record 5 of extra.txt carries the setting of HScroll1 from one target to the next.

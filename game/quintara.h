@@ -1,7 +1,12 @@
 #pragma once
 
+#include <array>
+#include <string_view>
+
+#include "documents/masters.h"
 #include "game/quintara_controls.h"
 #include "physics/ballistic_step.h"
+#include "scene/form_handle.h"
 
 namespace quintara {
 
@@ -12,19 +17,74 @@ namespace quintara {
 // below.
 class QuintaraForm : public QuintaraControls, public Module1 {
  public:
-  explicit QuintaraForm(Scene& scene);
+  QuintaraForm(Scene& scene, MastersForm& masters);
 
  private:
+  static constexpr std::size_t fragmentCount = 5;
+  static constexpr std::string_view bonusNextStep =
+      " Adjust Muzzle Elevation Angle       and Muzzle Velocity. Then, click     the red Fire button.";
+
   // main_window.cpp
   void Form_Load();
   void SetAppFolder();
   void LayScopeGrid();
   void DrawFragmentWidths();
   void StoreFlightTimeSetting();
+  std::array<Shape*, fragmentCount> Fragments() {
+    return {&shpExplode1, &shpExplode2, &shpExplode3, &shpExplode4, &shpExplode5};
+  }
+
+  // radar.cpp
+  struct Drift {
+    Timer& timer;      // the one that ticks
+    Timer& opposite;   // the one that takes over at the edge
+    double direction;  // 1 to the right, -1 to the left
+  };
+  void cmdSearch_Click();
+  void tmrBounce_Timer();
+  void tmrBounce2_Timer();
+  void DriftTarget(const Drift& drift);
+  void SetTrackSpeed();
+  void ShowProfilePicture();
+  void GrowTarget();
+  void LockOn(Timer& running);
+  void DrawSightings();
+  void MeasureRange();
+
+  // profile.cpp
+  void cmdMagnify_Click();
+  void ShowPanels();
+  void ShowMaximumScore();
+  void RaiseTerrain();
+  void LayOutline();
+  void BuildScales();
+  void ShowBonusHeader(std::string_view nextStep);
+  void ShowNormalHeader();
+
+  // laying.cpp
+  enum class Laying { Elevation, Velocity };
+  enum class PreviewOf { Laying, Drag };
+  void VScroll1_Change();
+  void VScroll2_Change();
+  void HScroll1_Change();
+  void cmdAdvanced_Click();
+  void LayGun(Laying changed);
+  void TakeElevation();
+  void TakeVelocity();
+  void DrawBarrel();
+  void DrawSightLines();
+  void ClearProfileForPlot();
+  void Preview(double dt, PreviewOf previewed);
+  void ShowTimeToImpact(Single seconds);
+  void PlotShell();
+  void TurnDragOn();
+  void TurnDragOff();
+  void PrepareBonusShot();
 
   // firing.cpp
   void Image7_Click();
   void tmrShell_Timer();
+  void StartShell();
   void CountShell();
   void FireBonusShell();
   void MoveShell();
@@ -33,18 +93,73 @@ class QuintaraForm : public QuintaraControls, public Module1 {
   void Picture8_MouseMove();
   void cmdReset_MouseMove();
 
-  // laying.cpp
-  void PrepareBonusShot();
+  // collision.cpp
+  void TestForImpact();
+  bool StrikesFoot();
+  bool StrikesOutline();
+  bool StrikesTarget();
+  void HitTarget();
+  void OfferListOfMasters();
 
   // effects.cpp
+  struct Ray {
+    Line& line;
+    double right, down;  // where it points to from the impact, twips
+  };
+  struct BurstRule {
+    std::string_view nextStep;  // what Label4 says after the fifth shell's burst
+    bool restoresHeader;        // whether the normal header comes back after any other
+    Shape& marker;
+    double impactY;
+    std::array<Ray, 3> rays;  // in the order in which they are drawn
+  };
+  void BurstOnProfile();
+  void BurstOnGround();
+  void BurstOnMountainFace();
+  std::array<Ray, 3> LevelFan();
+  void Burst(const BurstRule& rule);
+  void ChargeMiss();
+  void StopFlight();
   void Timer1_Timer();
+  void ThrowFragments();
+  void tmrExplode_Timer();
+  void MoveFragment(std::size_t i);
 
   // states.cpp
+  void Form_QueryUnload();
+  void cmdReset_Click();
+  void cmdSound_Click();
   void cmdCancel_Click();
+  void LayGunAtRest();
+  void TakeDownTarget();
+  void StartNewGame();
+  void UnloadScales();
 
-  std::int16_t mShellArmed = 0;     // 1 lets tmrShell work
-  std::int16_t mBonusShot = 0;      // 1: the bonus shot is armed
+  // help.cpp
+  void cmdHelp_Click();
+  void mnuMasters_Click();
+
+  FormHandle<MastersForm> frmMasters;
+
+  std::int16_t mShellArmed = 0;  // 1 lets tmrShell work
+  std::int16_t mBonusShot = 0;   // 1: the bonus shot is armed
+  std::int16_t mDragOn = 0;      // 1: drag is on for the shell now laid
+
+  Single mTrackSpeed;  // horizontal speed of the radar's target, twips a second
+  std::int16_t mTargetAltitude =
+      0;               // the descent that the target must pass before the lock-on, 1 to 6000 twips
+  Single mBearingDeg;  // bearing of the target at the lock-on
+  Single mSightRatio;  // places the meeting point of the sight lines
+  Single mTargetKm;    // range of the target, at least 10.7 km after a lock-on
+
   std::int16_t mProfileHeight = 0;  // height of Picture11, twips
+  Single mImpactSeconds;            // whole seconds to impact by the last preview of a laying
+  Single mImpactSlope;              // angle of the slope struck, radians
+
+  std::array<std::int16_t, fragmentCount> mFragOrigin{};  // where each fragment starts, twips
+  std::array<Single, fragmentCount> mFragRun{};           // how far it has run
+  std::array<Single, fragmentCount> mFragHeight{};
+  Single mFragRange, mFragApex;  // the parabola of the fragment moved last
 };
 
 }  // namespace quintara

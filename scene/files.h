@@ -32,6 +32,9 @@ class Files {
   // Finds a file by the name that the program joined: folder, backslash, name below the folder.
   DataFile Locate(std::string_view joined) const;
 
+  // Whether anything lies there, a file or not.
+  bool Exists(std::string_view joined) const { return disk_.Look(Locate(joined).path).exists; }
+
   // The whole file; nothing where it is missing, unreadable or too long.
   std::optional<std::string> ReadWhole(std::string_view joined) const;
 

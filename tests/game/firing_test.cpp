@@ -47,11 +47,11 @@ TEST_F(FiringTest, TheFirstTickOfAShell) {
 
 TEST_F(FiringTest, EachLineOfTheStepRoundsToSingle) {
   // The nine lines on plain numbers, each rounded by a store into a float.
-  Lay("45", "500");
+  Lay("75", "500");
   form.Label15.Caption = "0.007";
   Click(form.Image7);
   const float dt = static_cast<float>(15 * 0.059);
-  const float elevation = static_cast<float>(45 * 3.1416 / 180);
+  const float elevation = static_cast<float>(75 * 3.1416 / 180);
   float vx = static_cast<float>(500.0 * std::cos(static_cast<double>(elevation)));
   float vy = static_cast<float>(500.0 * std::sin(static_cast<double>(elevation)));
   float x = 0, y = 0, time = 0;
@@ -89,6 +89,7 @@ TEST_F(FiringTest, DragTakesTheSameTermOffBothAxes) {
 }
 
 TEST_F(FiringTest, TheFlashGoesAfter400Milliseconds) {
+  Lay("80", "700");  // a burst would make it stay longer
   Click(form.Image7);
   Advance(399);
   EXPECT_TRUE(form.Line12.Visible);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <string>
@@ -28,6 +29,29 @@ struct RunningGame {
     program.scene().dispatcher().AdvanceTo(program.scene().dispatcher().now() + milliseconds);
   }
   void Click(Object& object) { ASSERT_EQ(UserClicks(object), InputResult::Done) << FullName(object); }
+
+  // Searches until the target that comes down past `altitude` (1 to 6000 twips) is locked on, and opens the
+  // profile. 380 gives a range of 22.052 km.
+  void OpenProfile(int altitude = 380) {
+    chance.Queue((altitude - 0.5) / 6000);
+    Click(form.cmdSearch);
+    while (!form.cmdMagnify.Enabled) Advance(50);
+    Advance(50);  // a lock-on at the turn runs once more
+    Click(form.cmdMagnify);
+  }
+
+  // Fires, and steers the shell so that the next tick finds it at this place, in metres, coming straight
+  // down.
+  void FireTo(double x, double y) {
+    form.Image7.Enabled = true;
+    Click(form.Image7);
+    const double dt = Single(form.HScroll1.Value * 0.059);
+    form.gVx = 0;
+    form.gPosX = x;
+    form.gPosY = std::max(y, 0.0) + 1;
+    form.gVy = (y - form.gPosY + 4.9 * dt * dt) / dt + 9.8 * dt;
+    Advance(17);
+  }
 
   std::string Bytes(const std::string& name) const {
     std::ifstream file(folder.path() / name, std::ios::binary);

@@ -1,0 +1,73 @@
+#include "documents/masters.h"
+
+#include "scene/numbers.h"
+#include "scene/scene.h"
+
+namespace quintara {
+namespace {
+
+constexpr std::int16_t enter = 13;
+constexpr double masterPoints = 35;
+constexpr double grandMasterPoints = 45;
+
+}  // namespace
+
+MastersForm::MastersForm(Scene& owner, Module1& shared, const Label& score)
+    : Form(owner, "frmMasters",
+           {.caption = "Masters of Quintara", .clientWidth = 11085, .clientHeight = 8985}),
+      shared_(shared),
+      score_(score) {
+  Bind(Load, &MastersForm::Form_Load);
+  Bind(Text1.KeyPress, &MastersForm::Text1_KeyPress);
+  Bind(cmdRemove.Click, &MastersForm::cmdRemove_Click);
+  Bind(cmdCancel.Click, &MastersForm::cmdCancel_Click);
+}
+
+void MastersForm::Form_Load() {
+  const std::string path = shared_.gAppPath + "Masters.txt";
+  const auto lines = scene().files().ReadLines(path);
+  fileIsUnread_ = !lines && scene().files().Exists(path);
+  if (fileIsUnread_) {
+    scene().TellFault(
+        "The list of masters in the file Masters.txt could not be read. The file is left as it is.");
+  }
+  if (!lines) return;
+  for (const std::string& line : *lines) List1.AddItem(line);
+}
+
+void MastersForm::Text1_KeyPress(std::int16_t KeyAscii) {
+  if (KeyAscii != enter) return;
+  const double points = Val(score_.Caption);
+  if (points >= masterPoints && points < grandMasterPoints) {
+    List1.AddItem(Text1.Text.Get() + " - Master of Quintara");
+  } else if (points >= grandMasterPoints) {
+    List1.AddItem(Text1.Text.Get() + " - Grand Master of Quintara");
+  }
+  Picture1.Visible = false;
+  SaveList();
+  shared_.PlayUnlessSoundIsOff(scene(), "gong.wav");
+}
+
+void MastersForm::cmdRemove_Click() {
+  constexpr std::int32_t yesNoWithExclamation = 52;
+  shared_.gMsgText = "Are you sure you want to erase all names from the Quintara Master list?";
+  shared_.gMsgResult = ToText(scene().MsgBox(shared_.gMsgText, yesNoWithExclamation, "Removing names"));
+  if (shared_.gMsgResult != "6") return;
+  List1.Clear();
+  Picture1.Visible = false;
+  SaveList();
+}
+
+void MastersForm::cmdCancel_Click() {
+  Unload();
+}
+
+void MastersForm::SaveList() {
+  if (!fileIsUnread_ && scene().files().WriteLines(shared_.gAppPath + "Masters.txt", List1.items())) return;
+  scene().TellFault(
+      "The list of masters could not be saved in the file Masters.txt. The file was left as it is; the list "
+      "in this "
+      "window stays until the window is closed.");
+}
+
+}  // namespace quintara

@@ -1,0 +1,150 @@
+#include "game/quintara.h"
+#include "scene/scene.h"
+
+namespace quintara {
+namespace {
+
+// Where along the landscape each profile picture is shown: strictly between two places, so that a target
+// exactly on one keeps the picture it had.
+struct ProfileBand {
+  double above, below;
+  const char* file;
+};
+constexpr double noLimit = 1e30;
+constexpr ProfileBand profileBands[] = {
+    {0, 2500, "Graphics\\Profile1.bmp"},      {2500, 3250, "Graphics\\Profile2.bmp"},
+    {3250, 4750, "Graphics\\Profile3.bmp"},   {4750, 6250, "Graphics\\Profile4.bmp"},
+    {6250, 7750, "Graphics\\Profile5.bmp"},   {7750, 9250, "Graphics\\Profile6.bmp"},
+    {9250, 10750, "Graphics\\Profile7.bmp"},  {10750, 12250, "Graphics\\Profile8.bmp"},
+    {12250, 13750, "Graphics\\Profile9.bmp"}, {13750, noLimit, "Graphics\\Profile10.bmp"},
+};
+
+}  // namespace
+
+void QuintaraForm::cmdSearch_Click() {
+  gDt = 0.05;
+  Line2.X1 = 1800;
+  Line2.Y1 = 2040;
+  Shape2.Left = 1560;
+  Shape2.Top = 1920;
+  Shape2.Visible = true;
+  Line2.Visible = true;
+  scene().Randomize();
+  mTargetAltitude = CInt(Int(scene().Rnd() * 6000 + 1));
+  Label4.Caption = "  Target aquisition in progress";
+  gPosX = 0;
+  gPosY = 0;
+  Line6.Visible = true;
+  Line17.Visible = true;
+  Image2.Visible = true;
+  tmrBounce.Interval = 50;
+  tmrBounce.Enabled = true;
+  cmdSearch.Enabled = false;
+}
+
+void QuintaraForm::tmrBounce_Timer() {
+  DriftTarget({tmrBounce, tmrBounce2, 1});
+}
+void QuintaraForm::tmrBounce2_Timer() {
+  DriftTarget({tmrBounce2, tmrBounce, -1});
+}
+
+// One tick of the target's run. At an edge the two timers change over, and the tick goes on all the same: a
+// lock-on in that very tick stops only its own timer, so the other runs once more and locks on a second time.
+void QuintaraForm::DriftTarget(const Drift& drift) {
+  SetTrackSpeed();
+  gPosX = gPosX + drift.direction * (gDt * mTrackSpeed);
+  gPosY = gPosY + gDt * 500;
+  Shape2.Left = gPosX;
+  Shape2.Top = gPosY + 2000;
+
+  const bool atEdge = drift.direction > 0 ? Shape2.Left > 14500 : Shape2.Left < 0;
+  if (atEdge) {
+    scene().Beep();
+    drift.timer.Interval = 0;
+    drift.timer.Enabled = false;
+    drift.opposite.Enabled = true;
+    drift.opposite.Interval = 50;
+  }
+  ShowProfilePicture();
+
+  if (!(gPosY > mTargetAltitude)) {
+    GrowTarget();
+  } else if (gPosX > 200) {
+    LockOn(drift.timer);
+  }
+}
+
+// The two rules do not meet at 7360, and exactly there the speed stays: the target is fastest near the middle
+// and crawls at the right edge.
+void QuintaraForm::SetTrackSpeed() {
+  if (gPosX < 7360) mTrackSpeed = (gPosX * 4 + 3000) * 3;
+  if (gPosX > 7360) mTrackSpeed = (58880 - gPosX * 4) * 3;
+}
+
+void QuintaraForm::ShowProfilePicture() {
+  for (const ProfileBand& band : profileBands) {
+    if (gPosX > band.above && gPosX < band.below) {
+      scene().LoadPictureInto(Picture4, gAppPath + band.file);
+      return;
+    }
+  }
+}
+
+// The target grows to the right and downwards, and the beam ends on its centre.
+void QuintaraForm::GrowTarget() {
+  Shape2.Visible = true;
+  Shape2.Width = (500 - (12000 - gPosX) / 60) * (gPosY / 4800 + 5.0 / 8);
+  Shape2.Height = Shape2.Width / 2;
+  Line2.X1 = Shape2.Left + Shape2.Width / 2;
+  Line2.Y1 = Shape2.Top + Shape2.Height / 2;
+}
+
+void QuintaraForm::LockOn(Timer& running) {
+  if (gSoundOff == 0) scene().Beep();
+  DrawSightings();
+  MeasureRange();
+
+  Label5.Left = Shape3.Left - 200;
+  Label5.Top = Shape3.Top + 120;
+  Label5.Caption = " Target at " + std::string(quintara::Left(ToText(mTargetKm), 4)) + " km";
+  Label5.Visible = true;
+  cmdMagnify.Enabled = true;
+  running.Interval = 0;
+  running.Enabled = false;
+  Label4.Caption =
+      " Click Magnify (M) to display the     Terrain Profile and start the           Ballistic Simulator";
+}
+
+// The sight lines meet at a point of the line from the mortar to the target, which the target's bearing
+// places.
+void QuintaraForm::DrawSightings() {
+  // The bearing takes gPosY as it is, without the 2000 that the target's place on the landscape adds.
+  mBearingDeg = (180 / 3.1416) * Atn((gPosX - Line6.X1) / (gPosY - Line6.Y1));
+  mSightRatio = (mBearingDeg + 101.6) / 458.6;
+  Line2.X1 = gPosX;
+  Line2.Y1 = gPosY + 2000;
+  Line3.X1 = Line2.X1;
+  Line3.Y1 = Line2.Y1;
+  Line5.X1 = (Line2.X1 * mSightRatio + Line6.X2) / (mSightRatio + 1);
+  Line5.Y1 = ((Line5.X1 - Line6.X2) * Line2.Y1 + (Line2.X1 - Line5.X1) * Line6.Y2) / (Line2.X1 - Line6.X2);
+  Line3.X2 = Line5.X1;
+  Line3.Y2 = Line5.Y1;
+  Shape3.Left = Line2.X1 - Shape3.Width / 2;
+  Shape3.Top = Line2.Y1 - Shape3.Height / 2;
+  Line2.BorderColor = 255;
+  Line3.Visible = true;
+  Line5.Visible = true;
+  Shape3.Visible = true;
+  Shape2.Visible = false;
+}
+
+void QuintaraForm::MeasureRange() {
+  const double dx = Line2.X1 - Line6.X2;
+  const double dy = Line2.Y1 - Line6.Y2;
+  mTargetKm = Sqr(dx * dx + dy * dy);
+  mTargetKm = mTargetKm * 0.00182 + 7.45;
+  if (mTargetKm < Single(10.7)) mTargetKm = 10.7;  // a near target is reported, and stands, at 10.7 km
+}
+
+}  // namespace quintara

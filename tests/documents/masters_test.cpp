@@ -1,0 +1,170 @@
+#include "documents/masters.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/game.h"
+
+namespace quintara {
+namespace {
+
+namespace fs = std::filesystem;
+
+class MastersTest : public ::testing::Test, protected RunningGame {
+ protected:
+  MastersTest() { Start(); }
+
+  void Put(const std::string& bytes) const {
+    std::ofstream(folder.path() / "Masters.txt", std::ios::binary) << bytes;
+  }
+  // The offer of the game, and a name typed into it.
+  void Enter(const char* score, const std::string& name) {
+    form.Label17.Caption = score;
+    masters.Show();
+    masters.Picture1.Visible = true;
+    for (const char c : name) UserTypes(masters.Text1, c);
+    UserTypes(masters.Text1, 13);
+  }
+
+  MastersForm& masters = program.masters();
+};
+
+TEST_F(MastersTest, GivesTheTitleByThePoints) {
+  const struct {
+    const char *score, *line;
+  } cases[] = {{"35", "Ada - Master of Quintara"},
+               {"44", "Ada - Master of Quintara"},
+               {"45", "Ada - Grand Master of Quintara"},
+               {"55", "Ada - Grand Master of Quintara"}};
+  for (const auto& [score, line] : cases) {
+    Put("");
+    masters.Unload();
+    platform.log.clear();
+    Enter(score, "Ada");
+    EXPECT_EQ(Bytes("Masters.txt"), std::string(line) + "\r\n");
+    EXPECT_FALSE(masters.Picture1.Visible);
+    EXPECT_EQ(platform.log.back(), "sound gong.wav");
+  }
+  platform.log.clear();
+  UserTypes(masters.Text1, 13);
+  EXPECT_TRUE(platform.log.empty()) << "one offer takes one name";
+}
+
+TEST_F(MastersTest, EnterBelow35PointsSavesTheListUnchanged) {
+  Put("one\r\n\r\n\xff\xfe\r\n");
+  Enter("30", "Ada");
+  EXPECT_EQ(Bytes("Masters.txt"), "one\r\n\r\n\xff\xfe\r\n");
+  EXPECT_FALSE(masters.Picture1.Visible);
+  EXPECT_EQ(platform.log.back(), "sound gong.wav");
+}
+
+TEST_F(MastersTest, AnEmptyNameGivesTheTitleAlone) {
+  form.gSoundOff = 1;
+  platform.log.clear();
+  Enter("40", "");
+  EXPECT_EQ(Bytes("Masters.txt"), " - Master of Quintara\r\n");
+  EXPECT_EQ(platform.log, std::vector<std::string>{"show frmMasters"}) << "no gong";
+}
+
+TEST_F(MastersTest, RemovesAllNamesAfterAYes) {
+  Put("one\r\ntwo\r\n");
+  masters.Show();
+  platform.boxAnswers = {7, 6};
+  Click(masters.cmdRemove);
+  EXPECT_EQ(masters.List1.ListCount(), 2);
+  EXPECT_EQ(form.gMsgResult, "7");
+  Click(masters.cmdRemove);
+  EXPECT_EQ(masters.List1.ListCount(), 0);
+  EXPECT_EQ(Bytes("Masters.txt"), "");
+  EXPECT_EQ(platform.log.back(),
+            "box Are you sure you want to erase all names from the Quintara Master list?");
+}
+
+TEST_F(MastersTest, AFreshWindowReadsTheFileAfresh) {
+  Put("one\r\n");
+  masters.Show();
+  Put("one\r\ntwo\r\n");
+  masters.Show();
+  EXPECT_EQ(masters.List1.ListCount(), 1) << "a second opening runs no Load";
+  Click(masters.cmdCancel);
+  masters.Show();
+  EXPECT_EQ(masters.List1.ListCount(), 2);
+}
+
+TEST_F(MastersTest, AMissingFileIsAnEmptyList) {
+  masters.Show();
+  EXPECT_EQ(masters.List1.ListCount(), 0);
+  EXPECT_EQ(platform.log, std::vector<std::string>{"show frmMasters"});
+}
+
+TEST_F(MastersTest, WhatCannotBeReadIsNeverOverwritten) {
+  fs::create_directory(folder.path() / "Masters.txt");
+  Enter("40", "Ada");
+  EXPECT_TRUE(fs::is_directory(folder.path() / "Masters.txt"));
+  EXPECT_EQ(platform.log[0].substr(0, 4), "box ");
+  EXPECT_EQ(masters.List1.List(0), "Ada - Master of Quintara") << "the entry stays in the window";
+  masters.Unload();
+  fs::remove(folder.path() / "Masters.txt");
+  Put("");
+  fs::resize_file(folder.path() / "Masters.txt", std::uintmax_t{1} << 31);
+  Enter("40", "Ada");
+  EXPECT_EQ(fs::file_size(folder.path() / "Masters.txt"), std::uintmax_t{1} << 31);
+}
+
+TEST_F(MastersTest, AFullDiskKeepsTheOldListAndTellsThePlayer) {
+  class FullDisk : public DiskFileSystem {
+    bool Create(const fs::path& path, const std::string&) override {
+      return DiskFileSystem::Create(path, "ha") && false;
+    }
+  } full;
+  TemporaryFolder other;
+  RecordingPlatform outside(other.text());
+  outside.disk = &full;
+  Program game(outside);
+  game.Start();
+  std::ofstream(other.path() / "Masters.txt", std::ios::binary) << "one\r\n";
+  game.quintara().Label17.Caption = "50";
+  game.masters().Show();
+  game.masters().Picture1.Visible = true;
+  outside.log.clear();
+  UserTypes(game.masters().Text1, 13);
+  EXPECT_NE(outside.log[0].find("Masters.txt"), std::string::npos);
+  EXPECT_EQ(game.masters().List1.ListCount(), 2);
+  std::ifstream file(other.path() / "Masters.txt", std::ios::binary);
+  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), "one\r\n");
+}
+
+TEST_F(MastersTest, ALongListIsWrittenBackWhole) {
+  std::string bytes;
+  for (int i = 0; i < 400'000; ++i) bytes += "somebody - Master of Quintara\r\n";
+  Put(bytes);
+  Enter("40", "Ada");
+  EXPECT_EQ(Bytes("Masters.txt"), bytes + "Ada - Master of Quintara\r\n");
+}
+
+TEST_F(MastersTest, TheOfferAfterAHighScore) {
+  OpenProfile();
+  for (int shell = 1; shell <= 5; ++shell) FireTo(12000, -1);
+  form.Label17.Caption = "30";
+  FireTo(22052, -1);
+  EXPECT_EQ(form.Label17.Caption, "35");
+  EXPECT_TRUE(masters.IsVisible());
+  EXPECT_TRUE(masters.Picture1.Visible);
+  EXPECT_EQ(masters.focus(), &masters.Text1);
+  EXPECT_EQ(masters.Left, 0.0) << "it stands where a form that nothing placed stands";
+  EXPECT_TRUE(form.tmrExplode.Enabled) << "the fragments fly behind it";
+  UserTypes(masters.Text1, 'A');
+  UserTypes(masters.Text1, 13);
+  EXPECT_EQ(masters.List1.List(0), "A - Master of Quintara");
+}
+
+TEST_F(MastersTest, TheHelpMenuCentresTheWindow) {
+  platform.menuAnswers = {"mnuMasters"};
+  Click(form.cmdHelp);
+  EXPECT_TRUE(masters.IsVisible());
+  EXPECT_FALSE(masters.Picture1.Visible);
+  EXPECT_EQ(masters.Left, (28800.0 - 11175) / 2);
+  EXPECT_EQ(masters.Top, (16200.0 - 9360) / 2);
+}
+
+}  // namespace
+}  // namespace quintara

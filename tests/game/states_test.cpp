@@ -1,0 +1,161 @@
+#include <gtest/gtest.h>
+
+#include "tests/support/game.h"
+
+namespace quintara {
+namespace {
+
+class StatesTest : public ::testing::Test, protected RunningGame {
+ protected:
+  StatesTest() { Start(); }
+
+  void Miss() { FireTo(12000, -1); }
+  // Hits the target of the standard range, waits for the fragments and goes on to the next profile.
+  void HitAndReset() {
+    FireTo(22052, -1);
+    Advance(3400);
+    Click(form.cmdReset);
+  }
+  std::string Score() const {
+    return form.Label17.Caption.Get() + " / " +
+           (form.Label23.Visible ? form.Label23.Caption.Get() : "hidden");
+  }
+};
+
+TEST_F(StatesTest, ASampleGameOfScores) {
+  OpenProfile();
+  EXPECT_EQ(Score(), "0 / 50");
+  Click(form.cmdAdvanced);
+  EXPECT_EQ(Score(), "0 / 55");
+  FireTo(22052, -1);
+  EXPECT_EQ(Score(), "10 / hidden");
+  Advance(3400);
+  Click(form.cmdReset);
+  OpenProfile();
+  EXPECT_EQ(Score(), "10 / 50");
+  Miss();
+  EXPECT_EQ(Score(), "10 / 40");
+  FireTo(22052, -1);
+  EXPECT_EQ(Score(), "15 / hidden");
+  Advance(3400);
+  Click(form.cmdReset);
+  OpenProfile();
+  EXPECT_EQ(Score(), "15 / 35");
+  Click(form.cmdAdvanced);
+  EXPECT_EQ(Score(), "15 / 40");
+  Miss();
+  EXPECT_EQ(Score(), "15 / 25");
+  Miss();
+  EXPECT_EQ(Score(), "15 / 20");
+  FireTo(22052, -1);
+  EXPECT_EQ(Score(), "20 / hidden");
+  EXPECT_FALSE(program.masters().loaded()) << "20 points make no master";
+  Advance(3400);
+  EXPECT_EQ(form.Label4.Caption, " Click Reset to start a new game");
+  Click(form.cmdReset);
+  EXPECT_EQ(form.Label17.Caption, "0");
+  EXPECT_EQ(form.Label21.Caption, "1");
+  EXPECT_EQ(form.Label25.Caption, "0");
+  OpenProfile();
+  EXPECT_EQ(Score(), "0 / 50") << "and the next game begins";
+  EXPECT_TRUE(form.Label21.Visible && form.Image6.Visible && form.Shape6(0).Visible);
+}
+
+TEST_F(StatesTest, ResetTakesTheProfileDown) {
+  OpenProfile();
+  UserDragsTo(form.VScroll1, 300);
+  UserDragsTo(form.VScroll2, 600);
+  Miss();
+  const std::size_t objects = form.objects().size() - 2 * 33 - 2 * 16;
+  form.cmdReset.Enabled = true;
+  Click(form.cmdReset);
+  EXPECT_EQ(form.objects().size(), objects);
+  EXPECT_FALSE(form.Picture5.Visible || form.Picture6.Visible || form.Picture7.Visible ||
+               form.Picture8.Visible);
+  EXPECT_EQ(form.VScroll1.Value, 340);
+  EXPECT_EQ(form.VScroll2.Value, 250);
+  EXPECT_EQ(form.Label1.Caption, "30");
+  EXPECT_EQ(form.Label6.Caption, "250");
+  EXPECT_EQ(form.Image6.Height, 430);
+  EXPECT_EQ(form.Image6.Top, 440);
+  EXPECT_FALSE(form.Line24.Visible) << "though the nested Change has shown it";
+  EXPECT_EQ(form.Label31.Caption, "Real time to impact(sec) ");
+  EXPECT_EQ(form.Label4.Caption, " To start Laser Radar Target          Aquisition, click Search (S)");
+  EXPECT_EQ(form.Line2.BorderColor.Get(), Colour(0x00FFFF));
+  EXPECT_EQ(form.Picture4.Picture.Get(), Picture{});
+  EXPECT_TRUE(form.Line17.Visible && form.Image2.Visible) << "the mortar stays marked";
+  EXPECT_EQ(form.Label25.Caption, "1") << "the game goes on";
+  EXPECT_EQ(form.Label21.Caption, "2");
+  EXPECT_TRUE(form.Label12.Visible);
+}
+
+TEST_F(StatesTest, ResetRunsTheChangeWithTheBonusShotOfBefore) {
+  OpenProfile();
+  for (int shell = 1; shell <= 5; ++shell) Miss();
+  UserDragsTo(form.VScroll1, 300);
+  form.cmdReset.Enabled = true;
+  form.Picture5.Cls();
+  Click(form.cmdReset);
+  EXPECT_FALSE(form.Picture5.dots().empty()) << "the nested Change plots the bonus trajectory";
+  EXPECT_FALSE(form.Label3.Has(33));
+  OpenProfile();
+  EXPECT_EQ(form.Label24.Caption, "Bonus Shot using Advanced Trajectory Simulator")
+      << "shell 6 keeps the bonus armed";
+  EXPECT_FALSE(form.cmdAdvanced.Enabled);
+}
+
+TEST_F(StatesTest, AResetInTheLastFlightLeavesNoBurst) {
+  OpenProfile();
+  for (int shell = 1; shell <= 5; ++shell) Miss();
+  UserDragsTo(form.VScroll1, 300);
+  UserDragsTo(form.VScroll2, 700);
+  Click(form.Image7);
+  Advance(170);
+  Click(form.cmdReset);
+  platform.log.clear();
+  EXPECT_TRUE(form.tmrShell.Enabled);
+  Advance(60'000);
+  EXPECT_TRUE(platform.log.empty());
+  EXPECT_EQ(form.Label25.Caption, "0") << "a new game";
+}
+
+TEST_F(StatesTest, DragKeptThroughASilentEndCountsForTheBonusShell) {
+  OpenProfile();
+  for (int shell = 1; shell <= 4; ++shell) Miss();
+  Click(form.cmdAdvanced);
+  FireTo(9000, -1);
+  Advance(17);
+  FireTo(22052, -1);
+  EXPECT_EQ(form.Label17.Caption, "10");
+}
+
+TEST_F(StatesTest, DragTurnedOnAmongTheFragmentsCanBeTurnedOffAfterReset) {
+  OpenProfile();
+  FireTo(22052, -1);
+  Click(form.cmdAdvanced);
+  Advance(3400);
+  Click(form.cmdReset);
+  OpenProfile();
+  EXPECT_EQ(form.cmdAdvanced.Caption, "OFF");
+  Click(form.cmdAdvanced);
+  EXPECT_EQ(form.cmdAdvanced.Caption, "OFF");
+  EXPECT_EQ(form.Label23.Caption, "25") << "45 less 5 points for each of the 4 shells left";
+}
+
+TEST_F(StatesTest, SoundSwitch) {
+  Click(form.cmdSound);
+  EXPECT_EQ(form.cmdSound.Caption, "Sound OFF");
+  EXPECT_EQ(form.gSoundOff, 1);
+  Click(form.cmdSound);
+  EXPECT_EQ(form.cmdSound.Caption, "Sound ON");
+}
+
+TEST_F(StatesTest, ClosingTheMainFormClosesTheOthers) {
+  program.masters().Show();
+  platform.log.clear();
+  UserCloses(form);
+  EXPECT_EQ(platform.log, (std::vector<std::string>{"unload frmMasters", "unload Quintara", "end"}));
+}
+
+}  // namespace
+}  // namespace quintara
