@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <filesystem>
+#include <iosfwd>
+#include <string>
+
+#include "scene/platform.h"
+
+namespace quintara::host {
+
+// The world outside of a program that runs without a display: what the program does to it is printed, and
+// what it asks is answered from queues.
+class HostPlatform : public Platform {
+ public:
+  // `folder` is the program's folder; `out` must outlive the platform.
+  HostPlatform(const std::filesystem::path& folder, std::ostream& out);
+
+  // The number that the next message box without an answer yet returns.
+  void QueueBoxAnswer(std::int32_t result) { boxAnswers_.push_back(result); }
+  // The name of the item that is chosen in the next popup menu without an answer yet. A menu in which the
+  // user couldn't choose it is dismissed.
+  void QueueMenuAnswer(const std::string& item) { menuAnswers_.push_back(item); }
+
+  std::string ProgramFolder() override { return folder_; }
+  FileSystem& Disk() override { return disk_; }
+  double ScreenWidth() override { return 1920 * 15; }
+  double ScreenHeight() override { return 1080 * 15; }
+  std::uint64_t Seed() override;
+  void PlaySound(const DataFile& sound) override;
+  void Beep() override;
+  std::int32_t ShowMessageBox(const std::string& text, std::int32_t style, const std::string& title) override;
+  Menu* RunPopupMenu(Form& form, Menu& menu, double x, double y) override;
+  void PutOnClipboard(const std::string& text) override;
+  void FormShown(Form& form) override;
+  void FormUnloaded(Form& form) override;
+  void ProgramEnded() override;
+
+ private:
+  std::ostream& out_;
+  std::string folder_;
+  DiskFileSystem disk_;
+  std::deque<std::int32_t> boxAnswers_;
+  std::deque<std::string> menuAnswers_;
+  std::uint64_t seeds_ = 0;
+};
+
+}  // namespace quintara::host

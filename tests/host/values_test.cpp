@@ -1,0 +1,86 @@
+#include "host/values.h"
+
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cmath>
+#include <random>
+
+namespace quintara::host {
+namespace {
+
+Word Plain(const std::string& text) {
+  return {text, false};
+}
+
+TEST(ValuesTest, LinesSplitIntoWords) {
+  const auto words = SplitWords("  set\tA.B(1).C  \"two words\" \"\" a\"b ");
+  ASSERT_EQ(words.size(), 5u);
+  EXPECT_EQ(words[1].text, "A.B(1).C");
+  EXPECT_EQ(words[2].text, "two words");
+  EXPECT_TRUE(words[2].quoted && words[3].quoted && words[3].text.empty());
+  EXPECT_EQ(words[4].text, "a\"b");
+  for (const char* line : {"\"", "a \"b", "\"b\\\"", "\"b\\", "\"\\x\"", "\"a\"b", "\"a\"\"b\""}) {
+    EXPECT_THROW(SplitWords(line), Refusal) << line;
+  }
+}
+
+TEST(ValuesTest, TextOfAnyBytesKeepsToItsLineAndComesBack) {
+  std::string text;
+  for (int i = 0; i < 256; ++i) text += static_cast<char>(i);
+  const std::string quoted = Quoted(text);
+  EXPECT_EQ(quoted.find_first_of("\r\n\t"), std::string::npos);
+  EXPECT_EQ(Text::Read(SplitWords(quoted).front()), text);
+  EXPECT_EQ(Quoted("a\"b\\c\r\n\td"), R"("a\"b\\c\r\n\td")");
+  EXPECT_THROW(Text::Read(Plain("a")), Refusal);
+}
+
+TEST(ValuesTest, EverySingleComesBack) {
+  std::mt19937 random(7);
+  for (int i = 0; i < 20000; ++i) {
+    const auto number = std::bit_cast<float>(static_cast<std::uint32_t>(random()));
+    if (!std::isfinite(number)) continue;
+    const std::string text = Decimal::Write(Single(static_cast<double>(number)));
+    EXPECT_EQ(Decimal::Read(Plain(text)).Stored(), number) << text;
+    EXPECT_EQ(text.find('e'), std::string::npos);
+  }
+  EXPECT_EQ(Decimal::Write(-0.0), "0");
+  EXPECT_EQ(Decimal::Write(Single(0.1)), "0.1");
+}
+
+TEST(ValuesTest, NumbersKeepToTheirType) {
+  EXPECT_EQ(Integer16::Read(Plain("-32768")), -32768);
+  EXPECT_EQ(Integer32::Read(Plain("2147483647")), 2147483647);
+  for (const char* word :
+       {"32768", "-32769", "99999999999999999999", "1.5", "1e2", "", "+1", "x", "1x", "-"}) {
+    EXPECT_THROW(Integer16::Read(Plain(word)), Refusal) << word;
+  }
+  EXPECT_THROW(Integer32::Read(Plain("2147483648")), Refusal);
+  EXPECT_THROW(Integer16::Read({"1", true}), Refusal);
+
+  EXPECT_EQ(Decimal::Read(Plain("340282350000000000000000000000000000000")), 0x1.fffffep127);
+  EXPECT_EQ(Decimal::Read(Plain("-12.5")), -12.5);
+  for (const char* word :
+       {"340282360000000000000000000000000000000", "-1e39", "1e999", "inf", "nan", "1,5", ""}) {
+    EXPECT_THROW(Decimal::Read(Plain(word)), Refusal) << word;
+  }
+  EXPECT_THROW(Decimal::Read({"1", true}), Refusal);
+}
+
+TEST(ValuesTest, BooleansAndColours) {
+  EXPECT_TRUE(Boolean::Read(Plain("-1")));
+  EXPECT_FALSE(Boolean::Read(Plain("0")));
+  for (const char* word : {"1", "True", "-1.0", "00", ""}) {
+    EXPECT_THROW(Boolean::Read(Plain(word)), Refusal) << word;
+  }
+  EXPECT_EQ(ColourCode::Write(0x800000FF), "0x800000FF");
+  EXPECT_EQ(ColourCode::Read(Plain("0x00ab0cDE")), Colour(0x00AB0CDE));
+  for (const char* word :
+       {"0xFF", "255", "0x000000GG", "0x-0000001", "0x0000000000", "00x0000000", "#00000000"}) {
+    EXPECT_THROW(ColourCode::Read(Plain(word)), Refusal) << word;
+  }
+  EXPECT_THROW(ColourCode::Read({"0x00000000", true}), Refusal);
+}
+
+}  // namespace
+}  // namespace quintara::host
