@@ -1,0 +1,120 @@
+// What a player waits for: a change of the laying with and without its plot, a tick of the flight, a whole
+// game. Each stands beside its floor, the nine lines of a step on plain numbers.
+
+#include <benchmark/benchmark.h>
+
+#include <cmath>
+
+#include "bench/silent_platform.h"
+#include "program/program.h"
+#include "scene/input.h"
+
+namespace quintara {
+namespace {
+
+struct Game {
+  SilentPlatform platform;
+  Program program{platform};
+  QuintaraForm& form = program.quintara();
+
+  Game() { program.Start(); }
+
+  void Advance(std::int64_t milliseconds) {
+    Dispatcher& dispatcher = program.scene().dispatcher();
+    dispatcher.AdvanceTo(dispatcher.now() + milliseconds);
+  }
+  // Searches for a target at 22.052 km and opens its profile.
+  void OpenProfile() {
+    program.scene().chance().Queue(379.5 / 6000);
+    UserClicks(form.cmdSearch);
+    while (!form.cmdMagnify.Enabled) Advance(50);
+    UserClicks(form.cmdMagnify);
+  }
+  void Lay(std::int16_t elevation, std::int16_t velocity) {
+    UserDragsTo(form.VScroll1, static_cast<std::int16_t>(370 - elevation));
+    UserDragsTo(form.VScroll2, velocity);
+  }
+  void Fire() {
+    UserClicks(form.Image7);
+    while (form.tmrShell.Enabled) Advance(17);
+  }
+};
+
+// The nine lines of 3749 steps, each result rounded to single, on numbers that a compiler may keep where it
+// likes.
+void BareLoop(benchmark::State& state) {
+  for (auto _ : state) {
+    double k = 0;
+    benchmark::DoNotOptimize(k);
+    const double dt = static_cast<double>(static_cast<float>(0.885));
+    const auto round = [](double x) { return static_cast<double>(static_cast<float>(x)); };
+    double vx = round(750 * std::cos(1.39)), vy = round(750 * std::sin(1.39)), x = 0, y = 0, time = 0,
+           speed = 0;
+    for (int step = 1; step < 3750; ++step) {
+      const double drag = round(((k * 0.001) * std::sqrt(vx * vx + vy * vy)) * vx);
+      const double ax = -drag;
+      const double ay = round(-9.8 - drag);
+      vx = round(ax * dt + vx);
+      vy = round(ay * dt + vy);
+      speed = round(std::sqrt(vx * vx + vy * vy));
+      benchmark::DoNotOptimize(speed);
+      x = round((vx * dt + x) + dt * dt * (0.5 * ax));
+      y = round((vy * dt + y) + dt * dt * (0.5 * ay));
+      time = round(time + dt);
+    }
+    benchmark::DoNotOptimize(x + y + time);
+  }
+}
+BENCHMARK(BareLoop);
+
+void ChangeOfLaying(benchmark::State& state) {
+  Game game;
+  game.OpenProfile();
+  game.Lay(80, 750);
+  if (state.range(0) != 0) {
+    for (int shell = 1; shell <= 5; ++shell) UserClicks(game.form.Image7);
+    game.form.tmrShell.Enabled = false;
+  }
+  std::int16_t elevation = 290;
+  for (auto _ : state) {
+    elevation = static_cast<std::int16_t>(581 - elevation);  // 80 degrees and 79 in turn
+    game.form.VScroll1.Value = elevation;
+  }
+}
+BENCHMARK(ChangeOfLaying)->ArgName("plotted")->Arg(0)->Arg(1);
+
+void TickOfTheShell(benchmark::State& state) {
+  Game game;
+  game.OpenProfile();
+  game.Lay(80, 750);
+  UserDragsTo(game.form.HScroll1, 1);
+  UserClicks(game.form.Image7);
+  for (auto _ : state) {
+    if (!(game.form.gPosY > 5000 || game.form.gVy > 0)) {
+      state.PauseTiming();
+      game.form.Label21.Caption = "1";
+      UserClicks(game.form.Image7);
+      state.ResumeTiming();
+    }
+    game.form.tmrShell.Tick.Raise();
+  }
+}
+BENCHMARK(TickOfTheShell);
+
+// Search, laying, six flights and the Reset to the next game.
+void WholeGame(benchmark::State& state) {
+  Game game;
+  for (auto _ : state) {
+    game.OpenProfile();
+    for (int shell = 1; shell <= 6; ++shell) {
+      game.Lay(static_cast<std::int16_t>(40 + 5 * shell), 600);
+      game.Fire();
+    }
+    UserClicks(game.form.cmdReset);
+    game.Advance(1000);
+  }
+}
+BENCHMARK(WholeGame)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace quintara
