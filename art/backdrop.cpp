@@ -56,6 +56,16 @@ void PaintCopses(Canvas& canvas) {
   }
 }
 
+// The near fields sink into mist of the view's own colour: below the picture there is only that.
+void PaintMist(Canvas& canvas) {
+  for (int row = 120 * fine; row < canvas.height(); ++row) {
+    for (int column = 0; column < canvas.width(); ++column) {
+      const double drift = 5 * Fractal(column * 0.006, row * 0.03, 3, 77);
+      canvas.Blend(column, row, Rgb(0xC0C0FF), SmoothStep(124, 155, (row + 0.5) / fine + drift));
+    }
+  }
+}
+
 }  // namespace
 
 Canvas PaintBackdrop() {
@@ -71,6 +81,7 @@ Canvas PaintBackdrop() {
   PaintRange(large, fine, {113, 15, 26, Rgb(0x44605C), Rgb(0x98A070), 0, 90});
   PaintMeadows(large);
   PaintCopses(large);
+  PaintMist(large);
   return large.Reduced(fine);
 }
 

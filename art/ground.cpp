@@ -12,7 +12,9 @@ double TurfTop(double x) {
   const double swell = 4.2 * Fractal(x / 130, 0.5, 3, 21) + 1.6 * Fractal(x / 22, 3.5, 3, 22);
   const double blade =
       2.6 * Square(Chance(static_cast<int>(x), 0, 23)) * SmoothStep(-0.3, 0.3, Noise(x / 40, 1.5, 24));
-  return 10 + swell - blade;
+  // The mountain's box ends two pixels below the strip's upper edge, so the turf rises to meet its foot.
+  const double foot = SmoothStep(30, 56, x) * (1 - SmoothStep(280, 316, x));
+  return 8 - 6.4 * foot + (1 - 0.85 * foot) * (swell - blade);
 }
 
 Color Soil(double x, double y, double depth) {

@@ -4,7 +4,7 @@
 
 namespace quintara {
 
-// How one form reaches another: every use through -> is a touch, which loads a form that isn't loaded. A form
+// How one form reaches another: every use through -> or * is a touch, which loads a form that isn't loaded. A form
 // uses such a handle to itself where it goes on after its own unloading.
 template <typename FormClass>
 class FormHandle {
@@ -15,6 +15,7 @@ class FormHandle {
     form_.Touch();
     return &form_;
   }
+  FormClass& operator*() const { return *operator->(); }
 
   // Neither of these touches the form.
   void Unload() const { form_.Unload(); }
