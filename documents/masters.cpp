@@ -12,11 +12,10 @@ constexpr double grandMasterPoints = 45;
 
 }  // namespace
 
-MastersForm::MastersForm(Scene& owner, Module1& shared, const Label& score)
+MastersForm::MastersForm(Scene& owner, const MainForm& mainForm)
     : Form(owner, "frmMasters",
            {.caption = "Masters of Quintara", .clientWidth = 11085, .clientHeight = 8985}),
-      shared_(shared),
-      score_(score) {
+      main_(mainForm) {
   Bind(Load, &MastersForm::Form_Load);
   Bind(Text1.KeyPress, &MastersForm::Text1_KeyPress);
   Bind(cmdRemove.Click, &MastersForm::cmdRemove_Click);
@@ -24,7 +23,7 @@ MastersForm::MastersForm(Scene& owner, Module1& shared, const Label& score)
 }
 
 void MastersForm::Form_Load() {
-  const std::string path = shared_.gAppPath + "Masters.txt";
+  const std::string path = main_.shared.gAppPath + "Masters.txt";
   const auto lines = scene().files().ReadLines(path);
   fileIsUnread_ = !lines && scene().files().Exists(path);
   if (fileIsUnread_) {
@@ -37,7 +36,7 @@ void MastersForm::Form_Load() {
 
 void MastersForm::Text1_KeyPress(std::int16_t KeyAscii) {
   if (KeyAscii != enter) return;
-  const double points = Val(score_.Caption);
+  const double points = Val(main_.Label17.Caption);
   if (points >= masterPoints && points < grandMasterPoints) {
     List1.AddItem(Text1.Text.Get() + " - Master of Quintara");
   } else if (points >= grandMasterPoints) {
@@ -45,14 +44,15 @@ void MastersForm::Text1_KeyPress(std::int16_t KeyAscii) {
   }
   Picture1.Visible = false;
   SaveList();
-  shared_.PlayUnlessSoundIsOff(scene(), "gong.wav");
+  main_.shared.PlayUnlessSoundIsOff(scene(), "gong.wav");
 }
 
 void MastersForm::cmdRemove_Click() {
   constexpr std::int32_t yesNoWithExclamation = 52;
-  shared_.gMsgText = "Are you sure you want to erase all names from the Quintara Master list?";
-  shared_.gMsgResult = ToText(scene().MsgBox(shared_.gMsgText, yesNoWithExclamation, "Removing names"));
-  if (shared_.gMsgResult != "6") return;
+  main_.shared.gMsgText = "Are you sure you want to erase all names from the Quintara Master list?";
+  main_.shared.gMsgResult =
+      ToText(scene().MsgBox(main_.shared.gMsgText, yesNoWithExclamation, "Removing names"));
+  if (main_.shared.gMsgResult != "6") return;
   List1.Clear();
   Picture1.Visible = false;
   SaveList();
@@ -63,7 +63,8 @@ void MastersForm::cmdCancel_Click() {
 }
 
 void MastersForm::SaveList() {
-  if (!fileIsUnread_ && scene().files().WriteLines(shared_.gAppPath + "Masters.txt", List1.items())) return;
+  if (!fileIsUnread_ && scene().files().WriteLines(main_.shared.gAppPath + "Masters.txt", List1.items()))
+    return;
   scene().TellFault(
       "The list of masters could not be saved in the file Masters.txt. The file was left as it is; the list "
       "in this "

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "documents/main_form.h"
 #include "scene/controls.h"
-#include "scene/module1.h"
 
 namespace quintara {
 
@@ -9,8 +9,7 @@ namespace quintara {
 // came in. The window shows it, takes the name of a new master, and can erase it.
 class MastersForm : public Form {
  public:
-  // `score` is the caption that holds the points of the game, as text.
-  MastersForm(Scene& scene, Module1& shared, const Label& score);
+  MastersForm(Scene& scene, const MainForm& mainForm);
 
   // clang-format off
   Label         Label1   {*this, "Label1",    {2160, 1080,  6855,  975}, {.caption = "The following Individuals have earned the title of Masters of Quintara:", .alignment = Alignment::Centre, .backStyle = BackStyle::Transparent, .font = Font{"Mural Script", 20.25, true}}};
@@ -30,8 +29,7 @@ class MastersForm : public Form {
   void cmdCancel_Click();
   void SaveList();
 
-  Module1& shared_;
-  const Label& score_;
+  MainForm main_;
   bool fileIsUnread_ = false;  // something lies in the file's place that could not be read, and must not be lost
 };
 

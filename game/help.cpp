@@ -1,4 +1,5 @@
 #include "game/quintara.h"
+#include "scene/numbers.h"
 #include "scene/scene.h"
 
 namespace quintara {
@@ -7,10 +8,59 @@ void QuintaraForm::cmdHelp_Click() {
   PopupMenu(mnuHelp, 13200, 6680);
 }
 
+void QuintaraForm::mnuIntro_Click() {
+  Analysis->Open(HelpTopic::Introduction);
+}
+void QuintaraForm::mnuScenario_Click() {
+  Analysis->Open(HelpTopic::Scenario);
+}
+void QuintaraForm::mnuRules_Click() {
+  Analysis->Open(HelpTopic::Rules);
+}
+void QuintaraForm::mnuPhysics_Click() {
+  Analysis->Open(HelpTopic::Physics);
+}
+void QuintaraForm::mnuCodeSegment_Click() {
+  Analysis->Open(HelpTopic::Code);
+}
+void QuintaraForm::mnuPrint_Click() {
+  Analysis->Open(HelpTopic::Printing);
+}
+
 void QuintaraForm::mnuMasters_Click() {
   frmMasters->Show();
   frmMasters->Left = (scene().ScreenWidth() - frmMasters->Width) / 2;
   frmMasters->Top = (scene().ScreenHeight() - frmMasters->Height) / 2;
+}
+
+void QuintaraForm::mnuAbout_Click() {
+  About->Show();
+}
+
+void QuintaraForm::mnuReadme_Click() {
+  txtReadme.Visible = true;
+  cmdCloseReadme.Visible = true;
+  txtReadme.Width = 8000;
+  txtReadme.Height = 6000;
+  txtReadme.Left = 1000;
+  txtReadme.Top = 400;
+  cmdCloseReadme.Left = 8000;
+  cmdCloseReadme.Top = 6000;
+  ReadDocumentInto(txtReadme, gAppPath, "Readme.rtf");
+}
+
+void QuintaraForm::cmdCloseReadme_Click() {
+  txtReadme.Visible = false;
+  cmdCloseReadme.Visible = false;
+}
+
+void QuintaraForm::mnuUninstall_Click() {
+  constexpr std::int32_t okWithExclamation = 48;
+  gMsgText =
+      "To uninstall Quintara and all it's associated files from your computer, simply double click the "
+      "Add/Remove "
+      "Programs icon on Windows Control Panel, then select Quintara and click Add/Remove.";
+  gMsgResult = ToText(scene().MsgBox(gMsgText, okWithExclamation, "Uninstall Quintara"));
 }
 
 }  // namespace quintara

@@ -2,8 +2,13 @@
 
 namespace quintara {
 
-QuintaraForm::QuintaraForm(Scene& owner, MastersForm& masters)
-    : QuintaraControls(owner), frmMasters(masters) {
+QuintaraForm::QuintaraForm(Scene& owner, const SideForms& sideForms)
+    : QuintaraControls(owner),
+      projectile(sideForms.projectile),
+      frmTrajectory(sideForms.frmTrajectory),
+      frmMasters(sideForms.frmMasters),
+      Analysis(sideForms.Analysis),
+      About(sideForms.About) {
   Bind(Load, &QuintaraForm::Form_Load);
   Bind(QueryUnload, &QuintaraForm::Form_QueryUnload);
   Bind(cmdReset.Click, &QuintaraForm::cmdReset_Click);
@@ -29,7 +34,17 @@ QuintaraForm::QuintaraForm(Scene& owner, MastersForm& masters)
   Bind(tmrExplode.Tick, &QuintaraForm::tmrExplode_Timer);
 
   Bind(cmdHelp.Click, &QuintaraForm::cmdHelp_Click);
+  Bind(mnuIntro.Click, &QuintaraForm::mnuIntro_Click);
+  Bind(mnuScenario.Click, &QuintaraForm::mnuScenario_Click);
+  Bind(mnuRules.Click, &QuintaraForm::mnuRules_Click);
+  Bind(mnuPhysics.Click, &QuintaraForm::mnuPhysics_Click);
+  Bind(mnuCodeSegment.Click, &QuintaraForm::mnuCodeSegment_Click);
   Bind(mnuMasters.Click, &QuintaraForm::mnuMasters_Click);
+  Bind(mnuAbout.Click, &QuintaraForm::mnuAbout_Click);
+  Bind(mnuPrint.Click, &QuintaraForm::mnuPrint_Click);
+  Bind(mnuReadme.Click, &QuintaraForm::mnuReadme_Click);
+  Bind(cmdCloseReadme.Click, &QuintaraForm::cmdCloseReadme_Click);
+  Bind(mnuUninstall.Click, &QuintaraForm::mnuUninstall_Click);
 }
 
 }  // namespace quintara

@@ -3,6 +3,8 @@
 #include <array>
 #include <string_view>
 
+#include "documents/about.h"
+#include "documents/analysis.h"
 #include "documents/masters.h"
 #include "game/quintara_controls.h"
 #include "physics/ballistic_step.h"
@@ -17,7 +19,19 @@ namespace quintara {
 // below.
 class QuintaraForm : public QuintaraControls, public Module1 {
  public:
-  QuintaraForm(Scene& scene, MastersForm& masters);
+  // The windows that it opens, or closes when it closes.
+  struct SideForms {
+    ProjectileForm& projectile;
+    TrajectoryForm& frmTrajectory;
+    MastersForm& frmMasters;
+    AnalysisForm& Analysis;
+    AboutForm& About;
+  };
+
+  QuintaraForm(Scene& scene, const SideForms& sideForms);
+
+  // What the documents' windows use of this form.
+  MainForm ForDocuments() { return {*this, Label17, Label28, Label29, *this}; }
 
  private:
   static constexpr std::size_t fragmentCount = 5;
@@ -137,9 +151,23 @@ class QuintaraForm : public QuintaraControls, public Module1 {
 
   // help.cpp
   void cmdHelp_Click();
+  void mnuIntro_Click();
+  void mnuScenario_Click();
+  void mnuRules_Click();
+  void mnuPhysics_Click();
+  void mnuCodeSegment_Click();
   void mnuMasters_Click();
+  void mnuAbout_Click();
+  void mnuPrint_Click();
+  void mnuReadme_Click();
+  void cmdCloseReadme_Click();
+  void mnuUninstall_Click();
 
+  FormHandle<ProjectileForm> projectile;
+  FormHandle<TrajectoryForm> frmTrajectory;
   FormHandle<MastersForm> frmMasters;
+  FormHandle<AnalysisForm> Analysis;
+  FormHandle<AboutForm> About;
 
   std::int16_t mShellArmed = 0;  // 1 lets tmrShell work
   std::int16_t mBonusShot = 0;   // 1: the bonus shot is armed

@@ -3,8 +3,13 @@
 
 namespace quintara {
 
+// The program ends with its last form: closing this one takes the others along.
 void QuintaraForm::Form_QueryUnload() {
+  projectile.Unload();
+  frmTrajectory.Unload();
   frmMasters.Unload();
+  Analysis.Unload();
+  About.Unload();
 }
 
 void QuintaraForm::cmdCancel_Click() {

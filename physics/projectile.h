@@ -1,0 +1,81 @@
+#pragma once
+
+#include "physics/projectile_controls.h"
+
+namespace quintara {
+
+// The projectile demonstration: ball 1 runs along a rail at a constant pace, ball 2 falls freely, and ball 3
+// does both at once, taking its x from ball 1 and its y from ball 2.
+//
+// What the scales, the dial and the arrows say is not computed from the motion. A ball passes through bands,
+// and each band has its fixed numbers; only the fall is integrated.
+class ProjectileForm : public ProjectileControls {
+ public:
+  explicit ProjectileForm(Scene& scene);
+
+ private:
+  // What runs, as mBallMode says it.
+  static constexpr std::int16_t idle = 0, linear = 1, falling = 2, combined = 3;
+
+  // projectile.cpp
+  void Form_Load();
+  void Form_QueryUnload();
+  void cmdBall1_Click();
+  void cmdBall2_Click();
+  void cmdBall3_Click();
+  void cmdReset_Click();
+  void cmdStop_Click();
+  void cmdCancel_Click();
+  void tmrStart_Timer();
+  void LoadScales();
+  void LayDial();
+  void StartRun(std::int16_t mode);
+  void StopTimer();
+  void ForgetRun();
+  void PutBallsBack();
+  void PutBenchBack();
+  void HideScales();
+  void HideVectors();
+
+  // projectile_balls.cpp
+  void StepHorizontalBall();
+  void StepFallingBall();
+  void StepCombinedBall();
+  void PassRailBand();
+  void Fall();
+  void DrawFall();
+  void PassFallBand();
+  void LaySightLine();
+  void LayResultant();
+  void MoveHand(int position);
+  void OfferReset();
+  // How long the arrow of the fall is: it grows with the way that ball 2 has fallen, not with its velocity.
+  double FallArrow() const { return (Shape2.Top - 480) * 0.26; }
+
+  template <typename... Controls>
+  static void SetVisible(bool visible, Controls&... controls) {
+    ((controls.Visible = visible), ...);
+  }
+  static void Place(Box& box, double left, double top) {
+    box.Left = left;
+    box.Top = top;
+  }
+
+  std::int16_t mBallMode = idle;
+  std::int16_t mBallRate = 0;  // what each of the two steps that run adds to mBallX, twips a second
+  Single mBallX;               // twips run so far; ball 1 stands at mBallX + 500
+  Single mBallVy;              // m/s, negative downwards
+  Single mBallY;               // metres, negative downwards, 0 at the start
+  Single mShownVy;             // what Label14 says, a whole multiple of -9.8 m/s
+  Single mBallsPaused;         // 1: the next click on cmdStop lets the timer run
+
+  Single mDialX, mDialY;  // centre of the dial, twips
+  Single mDialBase;       // what its radii are counted from
+  Single mDialStep;       // angle between two of its positions, radians
+
+  Single mArrowRad, mArrowComplement;  // angle of the resultant arrow below the horizontal, and what is left
+                                       // of a right angle
+  std::int16_t mLoopIndex = 0;
+};
+
+}  // namespace quintara

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "physics/ballistic_step.h"
+#include "physics/trajectory_controls.h"
+
+namespace quintara {
+
+// The trajectory simulator: a flight with drag, to be studied by hand. A scroll bar replays the whole flight
+// as a curve on a chart, the Fire button flies a ball along it, and the slider takes the ball to a distance.
+//
+// The settings live in captions: Label5 holds the elevation in degrees, Label6 the initial velocity, Label11
+// the drag coefficient. Each flight takes them back from there.
+class TrajectoryForm : public TrajectoryControls {
+ public:
+  explicit TrajectoryForm(Scene& scene);
+
+ private:
+  // trajectory.cpp
+  void Form_Load();
+  void LayAxes();
+  void TakeElevation();
+  void TakeVelocity();
+  void TakeDrag();
+  void cmdCancel_Click();
+
+  // trajectory_flight.cpp
+  void HScroll1_Change();
+  void HScroll2_Change();
+  void HScroll3_Change();
+  void Slider1_Scroll();
+  void cmdFire_Click();
+  void cmdStop_Click();
+  void Timer1_Timer();
+  void tmrEvent_Timer();
+  void Replay(double floor);
+  void PlotFlight(double floor);
+  void ShowReplayCaptions();
+  void FlyToSlider();
+  void ShowBallAtSlider();
+  void SetUpChart();
+  void StartFlight(double dt);
+  void StartEventTimer();
+  bool FlightGoesOn() const { return Single(mTrajV0 * 5) > mStepCount; }
+  FlightVariables Flight() {
+    return {mTrajDrag, mTrajAx, mTrajAy, mTrajVx, mTrajVy, mTrajSpeed, mTrajX, mTrajY, mTrajTime, mTrajDt};
+  }
+  double ChartX() const { return mTrajX * 7.54 + 12000; }
+  double ChartY() const { return 45000 - mTrajY * 7.54; }
+  void PlotPoint() { PSet(ChartX(), ChartY()); }
+  void ShowBall(bool visible);
+  void LayProjectionLines();
+  void ShowComponentReadOuts();
+  void ShowFlightReadOuts();
+
+  // trajectory_vectors.cpp
+  struct ArrowRule {
+    double line12X2, line12Y1, line13Y1;  // how many times 10 x Sin(mResultantRad) each is off the tip
+    double line6Barb;                     // how far the barbs of the upright arrow end below its tip
+  };
+  void DrawVectors();
+  void DrawVectorsAscending();
+  void DrawVectorsDescending();
+  void DrawComponents();
+  void DrawArrowHeads(const ArrowRule& rule);
+
+  Single mTrajDt;                // time step in seconds
+  Single mTrajV0;                // initial velocity, m/s
+  Single mTrajVx, mTrajVy;       // velocity, m/s
+  Single mTrajSpeed;             // its length
+  Single mTrajX, mTrajY;         // metres along the ground and up
+  Single mTrajTime;              // seconds of flight
+  Single mTrajAx, mTrajAy;       // acceleration of the last step
+  Single mTrajDrag;              // the coefficient set; in a flight the drag term of the last step
+  Single mTrajElevationRad;      // elevation in radians
+  Single mTrajElevationScroll;   // where HScroll1 stands
+  Single mResultantRad;          // angle of the resultant vector
+  Single mResultantComplement;   // what it lacks of a right angle
+  Single mPaceRatio;             // mTrajVx / mTrajX, one second after Fire
+  std::int16_t mStepCount = 0;   // counts the steps of a replay
+  std::int16_t mLoopIndex = 0;   // counts the marks of the axes
+  std::int16_t mTrajPaused = 0;  // 1: cmdStop holds the flight
+};
+
+}  // namespace quintara

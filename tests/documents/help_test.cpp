@@ -1,0 +1,164 @@
+#include <gtest/gtest.h>
+
+#include "tests/support/game.h"
+
+namespace quintara {
+namespace {
+
+namespace fs = std::filesystem;
+using Log = std::vector<std::string>;
+
+class HelpTest : public ::testing::Test, protected RunningGame {
+ protected:
+  HelpTest() {
+    fs::create_directory(folder.path() / "Help");
+    for (const char* name : {"Introduction", "Scenario", "Rules", "Analysis", "Code", "Printing"}) {
+      std::ofstream(folder.path() / "Help" / (std::string(name) + ".rtf")) << "{\\rtf1 On " << name << ".}";
+    }
+    std::ofstream(folder.path() / "Readme.rtf") << "{\\rtf1 Read me.}";
+    Start();
+  }
+  void Choose(const char* item) {
+    platform.menuAnswers = {item};
+    Click(form.cmdHelp);
+    platform.log.erase(platform.log.begin());  // the popup itself
+  }
+
+  AnalysisForm& analysis = program.analysis();
+};
+
+TEST_F(HelpTest, EachTopicLaysTheWindowOutAnew) {
+  const struct {
+    const char *item, *caption, *text;
+    double left, top, width, height, textHeight, copyLeft, cancelLeft, cancelTop;
+    bool demonstrations, placeNames;
+  } rows[] = {
+      // The main form stands at 6742.5, 2365 and is 15315 by 11070 twips large.
+      {"mnuIntro", "Introduction", "On Introduction.", 6822.5, 2705, 6040, 9615, 8640, 1610, 3240, 8745,
+       false, false},
+      {"mnuScenario", "Scenario", "On Scenario.", 4742.5, 5535, 5830, 4250, 3285, 1300, 3575, 3400, false,
+       true},
+      {"mnuRules", "Rules", "On Rules.", 4792.5, 2085, 5730, 6900, 6030, 1260, 3495, 6100, false, false},
+      {"mnuPhysics", "Analysis", "On Analysis.", 6822.5, 2705, 6040, 9615, 8640, 1610, 3240, 8745, true,
+       false},
+      {"mnuCodeSegment", "Computer Code", "On Code.", 6822.5, 2705, 6850, 9615, 8640, 1610, 4175, 8745, false,
+       false},
+      {"mnuPrint", "Print", "On Printing.", 4792.5, 3285, 5730, 4500, 3430, 1260, 3495, 3600, false, false},
+  };
+  for (const auto& row : rows) {
+    Choose(row.item);
+    EXPECT_EQ(platform.log, Log{"show Analysis"});
+    platform.log.clear();
+    EXPECT_EQ(analysis.Caption, row.caption);
+    EXPECT_EQ(analysis.rtbMath.PlainText(), row.text);
+    EXPECT_EQ(analysis.Left, row.left) << row.item;
+    EXPECT_EQ(analysis.Top, row.top) << row.item;
+    EXPECT_EQ(analysis.Width, row.width);
+    EXPECT_EQ(analysis.Height, row.height);
+    EXPECT_EQ(analysis.rtbMath.Surface().height, row.textHeight) << "a unit of its scale stays a twip";
+    EXPECT_EQ(analysis.cmdCopy.Left, row.copyLeft);
+    EXPECT_EQ(analysis.cmdCancel.Left, row.cancelLeft);
+    EXPECT_EQ(analysis.cmdCancel.Top, row.cancelTop);
+    EXPECT_EQ(analysis.cmdTrajectory.Visible, row.demonstrations);
+    EXPECT_EQ(analysis.cmdFreeFall.Visible, row.demonstrations);
+    EXPECT_EQ(form.Label28.Visible, row.placeNames);
+    EXPECT_EQ(form.Label29.Visible, row.placeNames);
+  }
+}
+
+TEST_F(HelpTest, CopiesASelection) {
+  Choose("mnuRules");
+  platform.log.clear();
+  EXPECT_EQ(UserClicks(analysis.cmdCopy), InputResult::NoTarget);
+  UserSelects(analysis.rtbMath, 3, 5);
+  Click(analysis.cmdCopy);
+  EXPECT_EQ(platform.log, Log{"clipboard Rules"});
+  UserSelects(analysis.rtbMath, 3, 0);
+  EXPECT_TRUE(analysis.cmdCopy.Enabled);
+  Click(analysis.cmdCopy);
+  EXPECT_EQ(platform.log.size(), 1u) << "nothing is selected any more";
+  Choose("mnuPrint");
+  EXPECT_TRUE(analysis.cmdCopy.Enabled) << "nothing switches it off while the window is open";
+}
+
+TEST_F(HelpTest, CancelClosesTheDemonstrationsAndTakesTheNamesAway) {
+  Choose("mnuPhysics");
+  Click(analysis.cmdFreeFall);
+  Click(analysis.cmdTrajectory);
+  EXPECT_EQ(program.projectile().Left, form.Left + 6200);
+  EXPECT_EQ(program.trajectory().Top, form.Top + 1500);
+  program.trajectory().Left = 10.0;
+  Click(analysis.cmdTrajectory);
+  EXPECT_EQ(program.trajectory().Left, form.Left + 6200) << "a second click brings it back to its place";
+  Choose("mnuScenario");
+  EXPECT_TRUE(program.projectile().IsVisible()) << "another document leaves the demonstrations open";
+  UserSelects(analysis.rtbMath, 0, 2);
+  platform.log.clear();
+  Click(analysis.cmdCancel);
+  EXPECT_EQ(platform.log, (Log{"unload Analysis", "unload frmTrajectory", "unload projectile"}));
+  EXPECT_FALSE(form.Label28.Visible || form.Label29.Visible);
+  EXPECT_TRUE(analysis.loaded()) << "loaded again by the last touch, hidden";
+  EXPECT_FALSE(analysis.IsVisible());
+  EXPECT_EQ(analysis.rtbMath.PlainText(), "");
+  EXPECT_EQ(analysis.Caption, "Analysis of Quintara");
+  Choose("mnuRules");
+  EXPECT_FALSE(analysis.cmdCopy.Enabled);
+}
+
+TEST_F(HelpTest, TheFrameClosesTheDocumentAlone) {
+  Choose("mnuScenario");
+  program.projectile().Show();
+  platform.log.clear();
+  UserCloses(analysis);
+  EXPECT_EQ(platform.log, Log{"unload Analysis"});
+  EXPECT_TRUE(form.Label28.Visible);
+}
+
+TEST_F(HelpTest, AMissingDocumentIsNamedInItsBox) {
+  fs::remove(folder.path() / "Help" / "Rules.rtf");
+  fs::remove(folder.path() / "Readme.rtf");
+  fs::create_directory(folder.path() / "Readme.rtf");
+  Choose("mnuRules");
+  EXPECT_EQ(analysis.rtbMath.PlainText(), "The document Help\\Rules.rtf could not be read.");
+  EXPECT_TRUE(analysis.IsVisible());
+  Choose("mnuReadme");
+  EXPECT_EQ(form.txtReadme.PlainText(), "The document Readme.rtf could not be read.");
+}
+
+TEST_F(HelpTest, TheReadmeLiesOnTheLandscape) {
+  Choose("mnuReadme");
+  EXPECT_EQ(form.txtReadme.PlainText(), "Read me.");
+  EXPECT_EQ(form.txtReadme.Width, 8000);
+  EXPECT_EQ(form.txtReadme.Top, 400);
+  EXPECT_EQ(form.cmdCloseReadme.Left, 8000);
+  Click(form.cmdCloseReadme);
+  EXPECT_FALSE(form.txtReadme.Visible || form.cmdCloseReadme.Visible);
+}
+
+TEST_F(HelpTest, AboutAndUninstall) {
+  Choose("mnuAbout");
+  EXPECT_EQ(program.about().Left, (28800.0 - 4395) / 2);
+  EXPECT_EQ(program.about().Top, (16200.0 - 1965) / 2);
+  Click(program.about().cmdOK);
+  EXPECT_FALSE(program.about().loaded());
+  platform.log.clear();
+  Choose("mnuUninstall");
+  ASSERT_EQ(platform.log.size(), 1u);
+  EXPECT_EQ(platform.log[0].substr(0, 40), "box To uninstall Quintara and all it's a");
+  EXPECT_EQ(form.gMsgResult, "1");
+}
+
+TEST_F(HelpTest, ClosingTheMainFormUnloadsTheOthersInTheirOrder) {
+  program.about().Show();
+  Choose("mnuPhysics");
+  program.masters().Show();
+  Click(analysis.cmdTrajectory);
+  Click(analysis.cmdFreeFall);
+  platform.log.clear();
+  UserCloses(form);
+  EXPECT_EQ(platform.log, (Log{"unload projectile", "unload frmTrajectory", "unload frmMasters",
+                               "unload Analysis", "unload About", "unload Quintara", "end"}));
+}
+
+}  // namespace
+}  // namespace quintara
