@@ -253,6 +253,56 @@ TEST_F(TrajectoryTest, KeepsAPaceThatTicks) {
 }
 
 TEST_F(TrajectoryTest, DrawsTheVectorsUpAndDown) {
+  UserDragsTo(form.Slider1, 5);
+  ExpectEnds(form.Line12, {408.343, 734.485, 398.343, 724.485});  // no vector has pointed upwards yet
+  ExpectEnds(form.Line13, {408.343, 734.485, 398.343, 744.485});
+
+  UserDragsTo(form.Slider1, 0);
+  ExpectEnds(form.Line5, {210.405, 698.814, 398.343, 698.814});
+  ExpectEnds(form.Line6, {210.405, 698.814, 210.405, 631.566});
+  ExpectEnds(form.Line7, {398.343, 631.566, 210.405, 698.814});
+  ExpectEnds(form.Line10, {408.343, 698.814, 398.343, 688.814});
+  ExpectEnds(form.Line11, {408.343, 698.814, 398.343, 708.814});
+  ExpectEnds(form.Line12, {407.758, 628.197, 394.974, 622.150});
+  ExpectEnds(form.Line13, {407.758, 628.197, 401.712, 640.981});
+  ExpectEnds(form.Line14, {210.405, 631.566, 220.405, 641.566});
+  ExpectEnds(form.Line16, {200.405, 641.566, 210.405, 631.566});
+  EXPECT_NEAR(form.Image5.Left, 438.343, 0.002);
+  EXPECT_NEAR(form.Image5.Top, 591.566, 0.002);
+
+  UserDragsTo(form.Slider1, 5);
+  ExpectEnds(form.Line7, {398.343, 734.485, 210.405, 698.814});
+  ExpectEnds(form.Line12, {407.758, 736.170, 401.712, 725.070});  // the angle of the last way up
+  ExpectEnds(form.Line13, {407.758, 732.801, 401.712, 743.901});
+  ExpectEnds(form.Line14, {210.405, 734.485, 220.405, 724.485});
+  ExpectEnds(form.Line16, {200.405, 724.485, 210.405, 734.485});
+}
+
+TEST_F(TrajectoryTest, LettersStandInFrontOfCaptions) {
+  EXPECT_EQ(ObjectAt(form, 1740, 6480), &form.Image6);
+  EXPECT_EQ(ObjectAt(form, 4200, 6480), &form.Image1);
+  UserDragsTo(form.HScroll2, 300);
+  UserDragsTo(form.HScroll1, 290);
+  Click(form.cmdFire);
+  Advance(100);
+  const Rectangle letter = form.Image5.Surface();
+  EXPECT_LT(letter.top, 255) << "the steepest vector reaches up to the panel's heading";
+  EXPECT_EQ(ObjectAt(form, 6360 + letter.left + 75, letter.top + 75), &form.Image5);
+}
+
+TEST_F(TrajectoryTest, AReopenedWindowHasFreshControlsAndTheOldPause) {
+  Click(form.cmdFire);
+  Advance(1500);
+  Click(form.cmdStop);
+  Click(form.cmdCancel);
+  EXPECT_EQ(platform.log.back(), "unload frmTrajectory");
+  Advance(5000);
+  form.Show();
+  EXPECT_EQ(form.ScaleMode, 1);
+  EXPECT_EQ(form.Shape1.Left, 1150);
+  EXPECT_EQ(form.Label1(10).Left, 8570);
+  EXPECT_EQ(form.Timer1.Interval, 100);
+  EXPECT_EQ(form.cmdStop.Caption, "Stop");
   Click(form.cmdFire);
   Advance(100);
   Click(form.cmdStop);
