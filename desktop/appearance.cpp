@@ -1,0 +1,92 @@
+#include "desktop/appearance.h"
+
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QStyleFactory>
+
+#include <algorithm>
+
+#include "desktop/units.h"
+
+namespace quintara::desktop {
+namespace {
+
+QPalette ClassicPalette() {
+  const QColor face(0xC0, 0xC0, 0xC0);
+  const QColor shadow(0x80, 0x80, 0x80);
+  QPalette palette;
+  for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+    const QColor text = group == QPalette::Disabled ? shadow : QColor(Qt::black);
+    palette.setColorGroup(group, text, face, Qt::white, shadow, QColor(0xA0, 0xA0, 0xA0), text, Qt::white,
+                          Qt::white, face);
+    palette.setColor(group, QPalette::Midlight, QColor(0xDF, 0xDF, 0xDF));
+    palette.setColor(group, QPalette::Shadow, Qt::black);
+    palette.setColor(group, QPalette::ButtonText, text);
+    palette.setColor(group, QPalette::Highlight, QColor(0x00, 0x00, 0x80));
+    palette.setColor(group, QPalette::HighlightedText, Qt::white);
+    palette.setColor(group, QPalette::AlternateBase, Qt::white);
+    palette.setColor(group, QPalette::ToolTipBase, QColor(0xFF, 0xFF, 0xE1));
+    palette.setColor(group, QPalette::ToolTipText, Qt::black);
+    palette.setColor(group, QPalette::PlaceholderText, shadow);
+    palette.setColor(group, QPalette::Link, QColor(0x00, 0x00, 0xFF));
+    palette.setColor(group, QPalette::LinkVisited, QColor(0x80, 0x00, 0x80));
+  }
+  return palette;
+}
+
+// Fonts with the same widths, or at least of the same kind, for those that forms and documents name.
+void SubstituteFonts() {
+  const QStringList sans{"Liberation Sans", "Arimo", "Helvetica", "DejaVu Sans"};
+  const QStringList serif{"Liberation Serif", "Tinos", "Times", "DejaVu Serif"};
+  const QStringList mono{"Liberation Mono", "Cousine", "Courier", "DejaVu Sans Mono"};
+  const QStringList script{"Z003", "URW Chancery L", "Apple Chancery", "Monotype Corsiva"};
+  for (const char* name : {"Arial", "MS Sans Serif", "Arial Black", "Tahoma", "Verdana"})
+    QFont::insertSubstitutions(name, sans);
+  for (const char* name : {"Times New Roman", "MS Serif"}) QFont::insertSubstitutions(name, serif);
+  for (const char* name : {"Courier New", "Fixedsys"}) QFont::insertSubstitutions(name, mono);
+  QFont::insertSubstitutions("Mural Script", script + serif);
+}
+
+}  // namespace
+
+void SetUpAppearance(QApplication& application) {
+  SubstituteFonts();
+  application.setStyle(QStyleFactory::create("windows"));
+  application.setPalette(ClassicPalette());
+  application.setFont(ToQFont(Font{}));
+}
+
+QColor ToQColor(Colour colour) {
+  const std::uint32_t direct = DirectColour(colour);
+  return QColor::fromRgb(static_cast<int>(direct & 0xFF), static_cast<int>(direct >> 8 & 0xFF),
+                         static_cast<int>(direct >> 16 & 0xFF));
+}
+
+QFont ToQFont(const Font& font) {
+  QFont result(ToQString(font.name));
+  result.setPixelSize(ToPixelSize(font.points));
+  // Letters keep their true widths; rounded ones would break captions in other places.
+  result.setHintingPreference(QFont::PreferVerticalHinting);
+  result.setWeight(WeightOf(font.name, font.bold));
+  // What stands in for this one has upright letters.
+  result.setItalic(font.italic || font.name == "Mural Script");
+  return result;
+}
+
+QFont::Weight WeightOf(std::string_view fontName, bool bold) {
+  if (fontName == "Arial Black") return QFont::Black;
+  return bold ? QFont::Bold : QFont::Normal;
+}
+
+int ToPixelSize(double points) {
+  return std::max(qRound(points * 96 / 72), 1);
+}
+
+QPalette PaletteWith(QPalette::ColorRole faceRole, Colour face, QPalette::ColorRole textRole, Colour text) {
+  QPalette palette = QApplication::palette();
+  palette.setColor(faceRole, ToQColor(face));
+  for (const auto group : {QPalette::Active, QPalette::Inactive})
+    palette.setColor(group, textRole, ToQColor(text));
+  return palette;
+}
+
+}  // namespace quintara::desktop

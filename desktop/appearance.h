@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QtGui/QColor>
+#include <QtGui/QFont>
+#include <QtGui/QPalette>
+
+#include <string_view>
+
+#include "scene/colour.h"
+#include "scene/looks.h"
+
+class QApplication;
+
+namespace quintara::desktop {
+
+// Gives the application the classic grey look, whatever the look of the system it runs on.
+void SetUpAppearance(QApplication& application);
+
+QColor ToQColor(Colour colour);
+QFont ToQFont(const Font& font);
+// The weight of a font's letters; that of some fonts lies in their name.
+QFont::Weight WeightOf(std::string_view fontName, bool bold);
+// The size of letters in pixels; forms were laid out for 96 dots to the inch.
+int ToPixelSize(double points);
+
+// The palette of the grey look with other colours for a face and what is written on it.
+QPalette PaletteWith(QPalette::ColorRole faceRole, Colour face, QPalette::ColorRole textRole, Colour text);
+
+}  // namespace quintara::desktop

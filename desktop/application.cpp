@@ -1,0 +1,49 @@
+#include "desktop/application.h"
+
+#include <QtGui/QIcon>
+#include <QtWidgets/QMessageBox>
+
+#include <exception>
+#include <utility>
+
+#include "desktop/appearance.h"
+
+namespace quintara::desktop {
+namespace {
+
+// The sizes that window frames, task bars and task switchers ask for.
+QIcon ProgramIcon() {
+  QIcon icon;
+  for (const int size : {16, 24, 32, 48, 64}) icon.addFile(QString(":/pictures/icon_%1.png").arg(size));
+  return icon;
+}
+
+}  // namespace
+
+Application::Application(int& argumentCount, char** arguments) : QApplication(argumentCount, arguments) {
+  setApplicationName("Quintara");
+  setDesktopFileName("quintara");
+  setQuitOnLastWindowClosed(false);
+  SetUpAppearance(*this);
+  setWindowIcon(ProgramIcon());
+}
+
+bool Application::notify(QObject* receiver, QEvent* event) {
+  try {
+    return QApplication::notify(receiver, event);
+  } catch (const std::exception& fault) {
+    TellFault(fault.what());
+  } catch (...) {
+    TellFault("an unknown fault");
+  }
+  return true;
+}
+
+void Application::TellFault(const QString& what) {
+  qWarning("Quintara: %s", qPrintable(what));
+  // Once is enough: a fault in a painting comes again with the next one.
+  if (std::exchange(told_, true)) return;
+  QMessageBox::warning(activeWindow(), "Quintara", "Something went wrong: " + what + ". The game goes on.");
+}
+
+}  // namespace quintara::desktop

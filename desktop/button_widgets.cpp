@@ -1,0 +1,100 @@
+#include "desktop/button_widgets.h"
+
+#include <QtGui/QMouseEvent>
+#include <QtGui/QPainter>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QStyleOptionButton>
+#include <QtWidgets/QStylePainter>
+
+#include <algorithm>
+
+#include "desktop/appearance.h"
+#include "desktop/pictures.h"
+#include "desktop/session.h"
+#include "desktop/units.h"
+#include "scene/form.h"
+#include "scene/input.h"
+
+namespace quintara::desktop {
+namespace {
+
+// The font, or the next smaller size at which the caption isn't cut off.
+QFont FittingFont(const QFont& font, const QString& caption, int width) {
+  constexpr int smallest = 7;
+  QFont fitting = font;
+  while (fitting.pixelSize() > smallest && QFontMetrics(fitting).horizontalAdvance(caption) > width)
+    fitting.setPixelSize(fitting.pixelSize() - 1);
+  return fitting;
+}
+
+}  // namespace
+
+ButtonWidget::ButtonWidget(Button& button, QWidget& parent, Session& session)
+    : QPushButton(&parent), Control(button, *this, session), button_(button) {
+  setPalette(PaletteWith(QPalette::Button, button.looks().backColor, QPalette::ButtonText,
+                         button.looks().foreColor));
+  setMouseTracking(true);
+  if (!button.looks().picture.empty()) picture_ = session.pictures().Embedded(button.looks().picture);
+  connect(this, &QPushButton::clicked, this, [this] { session_.Run([this] { UserClicks(button_); }); });
+}
+
+void ButtonWidget::ShowLooks() {
+  constexpr int edges = 6;
+  const QString caption = ToQString(button_.Caption.Get());
+  const QFont font = ToQFont(button_.looks().font.value_or(button_.form().looks().font));
+  setFont(FittingFont(font, caption, width() - edges));
+  setText(caption);
+  setAccessibleName(caption.isEmpty() ? ToQString(button_.name()) : caption);
+}
+
+void ButtonWidget::paintEvent(QPaintEvent*) {
+  QStylePainter painter(this);
+  QStyleOptionButton option;
+  initStyleOption(&option);
+  painter.drawControl(QStyle::CE_PushButtonBevel, option);
+  QRect face = rect();
+  if (isDown()) face.translate(1, 1);
+  if (picture_.isNull()) {
+    painter.drawItemText(face, Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextDontClip, palette(),
+                         isEnabled(), text(), QPalette::ButtonText);
+  } else {
+    const QPixmap shown =
+        isEnabled() ? picture_ : style()->generatedIconPixmap(QIcon::Disabled, picture_, &option);
+    // Of a picture that is too wide the left part shows, where its sign is.
+    constexpr int edge = 3;
+    const QPoint inset(std::max((width() - shown.width()) / 2, edge), (height() - shown.height()) / 2);
+    painter.drawPixmap(face.topLeft() + inset, shown);
+  }
+  if (hasFocus()) {
+    QStyleOptionFocusRect focus;
+    focus.initFrom(this);
+    focus.backgroundColor = palette().button().color();
+    focus.rect = rect().adjusted(3, 3, -3, -3);
+    painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
+  }
+}
+
+void ButtonWidget::mouseMoveEvent(QMouseEvent* event) {
+  QPushButton::mouseMoveEvent(event);
+  event->accept();
+  if (session_.PointerMoved(event->globalPosition().toPoint()))
+    session_.Run([this] { UserMovesOnto(button_); });
+}
+
+PanelWidget::PanelWidget(SSPanel& panel, QWidget& parent, Session& session)
+    : QLabel(&parent), Control(panel, *this, session), panel_(panel) {
+  setPalette(
+      PaletteWith(QPalette::Window, panel.looks().backColor, QPalette::WindowText, colours::buttonText));
+  setAutoFillBackground(true);
+  setFrameStyle(QFrame::Panel | QFrame::Raised);
+  setLineWidth(1);
+  setAlignment(Qt::AlignCenter);
+  setTextFormat(Qt::PlainText);
+  setFont(ToQFont(panel.looks().font.value_or(panel.form().looks().font)));
+}
+
+void PanelWidget::ShowLooks() {
+  setText(ToQString(panel_.Caption.Get()));
+}
+
+}  // namespace quintara::desktop

@@ -1,0 +1,112 @@
+#include "desktop/desktop_platform.h"
+
+#include <QtCore/QDateTime>
+#include <QtCore/QHash>
+#include <QtCore/QRandomGenerator>
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QScreen>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QMessageBox>
+
+#include "desktop/form_window.h"
+#include "desktop/session.h"
+#include "desktop/units.h"
+#include "scene/form.h"
+#include "scene/menu.h"
+
+namespace quintara::desktop {
+namespace {
+
+QSize ScreenSize() {
+  return QGuiApplication::primaryScreen()->size();
+}
+
+// While this lives, a handler waits for the user.
+class Waiting {
+ public:
+  explicit Waiting(Session* session) : session_(session) {
+    if (session_ != nullptr) session_->BeginWaiting();
+  }
+  ~Waiting() {
+    if (session_ != nullptr) session_->EndWaiting();
+  }
+  Waiting(const Waiting&) = delete;
+  Waiting& operator=(const Waiting&) = delete;
+
+ private:
+  Session* session_;
+};
+
+}  // namespace
+
+double DesktopPlatform::ScreenWidth() {
+  return ToTwips(ScreenSize().width());
+}
+double DesktopPlatform::ScreenHeight() {
+  return ToTwips(ScreenSize().height());
+}
+
+std::uint64_t DesktopPlatform::Seed() {
+  const auto time = static_cast<std::uint64_t>(QDateTime::currentMSecsSinceEpoch());
+  return time ^ QRandomGenerator::system()->generate64();
+}
+
+void DesktopPlatform::PlaySound(const DataFile& sound) {
+  sounds_.Play(QString::fromStdU16String(sound.path.u16string()));
+}
+
+void DesktopPlatform::Beep() {
+  QApplication::beep();
+}
+
+std::int32_t DesktopPlatform::ShowMessageBox(const std::string& text, std::int32_t style,
+                                             const std::string& title) {
+  constexpr std::int32_t buttonsMask = 0x0F, yesAndNo = 4, iconMask = 0xF0, exclamation = 48;
+  constexpr std::int32_t chosenOk = 1, chosenYes = 6, chosenNo = 7;
+  const bool asks = (style & buttonsMask) == yesAndNo;
+  QMessageBox box(QApplication::activeWindow());
+  box.setWindowTitle(ToQString(title));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(ToQString(text));
+  box.setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No
+                              : QMessageBox::StandardButtons(QMessageBox::Ok));
+  if ((style & iconMask) == exclamation) box.setIcon(QMessageBox::Warning);
+  const Waiting waiting(session_);
+  const int chosen = box.exec();
+  if (!asks) return chosenOk;
+  return chosen == QMessageBox::Yes ? chosenYes : chosenNo;
+}
+
+Menu* DesktopPlatform::RunPopupMenu(Form& form, Menu& menu, double x, double y) {
+  const Waiting waiting(session_);
+  FormWindow* window = session_ != nullptr ? session_->WindowOf(form) : nullptr;
+  if (window == nullptr) return nullptr;
+  QMenu popup(window);
+  QHash<QAction*, Menu*> items;
+  for (Menu* item : menu.items()) {
+    if (!item->IsVisible()) continue;
+    QAction* action =
+        item->IsSeparator() ? popup.addSeparator() : popup.addAction(ToQString(item->Caption.Get()));
+    action->setEnabled(item->IsEnabled());
+    items.insert(action, item);
+  }
+  return items.value(popup.exec(window->mapToGlobal(QPoint(ToPixels(x), ToPixels(y)))));
+}
+
+void DesktopPlatform::PutOnClipboard(const std::string& text) {
+  QGuiApplication::clipboard()->setText(ToQString(text));
+}
+
+void DesktopPlatform::FormShown(Form& form) {
+  if (session_ != nullptr) session_->FormShown(form);
+}
+void DesktopPlatform::FormUnloaded(Form& form) {
+  if (session_ != nullptr) session_->FormUnloaded(form);
+}
+void DesktopPlatform::ProgramEnded() {
+  if (session_ != nullptr) session_->ProgramEnded();
+}
+
+}  // namespace quintara::desktop

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QtCore/QString>
+
+#include <cstdint>
+#include <string>
+
+#include "desktop/sound_player.h"
+#include "scene/file_system.h"
+#include "scene/platform.h"
+
+namespace quintara::desktop {
+
+class Session;
+
+// What the Scene asks of the world, done by Qt.
+class DesktopPlatform final : public Platform {
+ public:
+  explicit DesktopPlatform(const QString& programFolder) : programFolder_(programFolder) {}
+
+  // Where forms are shown from now on. There is none yet while the program is built, nor any more at its end.
+  void Attach(Session* session) { session_ = session; }
+
+  std::string ProgramFolder() override { return programFolder_.toStdString(); }
+  FileSystem& Disk() override { return disk_; }
+
+  double ScreenWidth() override;
+  double ScreenHeight() override;
+  std::uint64_t Seed() override;
+
+  void PlaySound(const DataFile& sound) override;
+  void Beep() override;
+  std::int32_t ShowMessageBox(const std::string& text, std::int32_t style, const std::string& title) override;
+  Menu* RunPopupMenu(Form& form, Menu& menu, double x, double y) override;
+  void PutOnClipboard(const std::string& text) override;
+
+  void FormShown(Form& form) override;
+  void FormUnloaded(Form& form) override;
+  void ProgramEnded() override;
+
+ private:
+  QString programFolder_;
+  DiskFileSystem disk_;
+  SoundPlayer sounds_;
+  Session* session_ = nullptr;
+};
+
+}  // namespace quintara::desktop

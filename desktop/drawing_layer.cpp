@@ -1,0 +1,66 @@
+#include "desktop/drawing_layer.h"
+
+#include <QtGui/QPainter>
+
+#include <algorithm>
+
+#include "desktop/appearance.h"
+#include "desktop/units.h"
+#include "scene/container.h"
+
+namespace quintara::desktop {
+namespace {
+
+QRect PlaceOf(const Dot& dot) {
+  const int width = std::max<int>(dot.width, 1);
+  return {ToPixels(dot.leftTwips) - width / 2, ToPixels(dot.topTwips) - width / 2, width, width};
+}
+
+void PaintDot(QPainter& painter, const Dot& dot, const QRect& place) {
+  constexpr int widestSquare = 2;
+  if (place.width() <= widestSquare) {
+    painter.fillRect(place, ToQColor(dot.colour));
+  } else {
+    painter.setBrush(ToQColor(dot.colour));
+    painter.drawEllipse(place);
+  }
+}
+
+}  // namespace
+
+QRect DrawingLayer::Follow(const Container& container, const QSize& size, qreal pixelRatio) {
+  QRect changed;
+  const QSize pixels = size * pixelRatio;
+  if (wipes_ != container.wipes() || (!image_.isNull() && image_.size() != pixels)) {
+    changed = marked_;
+    wipes_ = container.wipes();
+    image_ = {};
+    marked_ = {};
+    drawn_ = 0;
+  }
+  const auto& dots = container.dots();
+  if (drawn_ == dots.size() || size.isEmpty()) return changed;
+
+  if (image_.isNull()) {
+    image_ = QImage(pixels, QImage::Format_ARGB32_Premultiplied);
+    image_.setDevicePixelRatio(pixelRatio);
+    image_.fill(Qt::transparent);
+  }
+  QPainter painter(&image_);
+  painter.setPen(Qt::NoPen);
+  painter.setRenderHint(QPainter::Antialiasing);
+  QRect added;
+  for (; drawn_ < dots.size(); ++drawn_) {
+    const QRect place = PlaceOf(dots[drawn_]);
+    PaintDot(painter, dots[drawn_], place);
+    added |= place;
+  }
+  marked_ |= added;
+  return changed | added;
+}
+
+void DrawingLayer::Paint(QPainter& painter) const {
+  if (!image_.isNull()) painter.drawImage(0, 0, image_);
+}
+
+}  // namespace quintara::desktop

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QtCore/QPoint>
+#include <QtWidgets/QWidget>
+
+#include "desktop/surface.h"
+
+namespace quintara {
+class Form;
+}
+
+namespace quintara::desktop {
+
+class Session;
+
+// The window of a form.
+class FormWindow final : public QWidget {
+ public:
+  FormWindow(Form& form, Session& session);
+
+  // Takes over what has changed in the Scene since the last call.
+  void Follow();
+  void BringToFront();
+  // The widget of an object that has a surface of its own, or null.
+  QWidget* WidgetOf(const Object& object) const;
+  Surface& surface() { return surface_; }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
+
+ private:
+  void FollowFrame();
+  void FollowFocus();
+
+  Form& form_;
+  Session& session_;
+  Surface surface_;
+  QPoint wanted_;  // the frame's place as the Scene told it last, or as the user moved it since
+  QPoint placed_;  // where the frame was put, which keeps it within reach on the screen
+  ChangeCount seen_ = 0;
+  ChangeCount focusSeen_ = 0;
+  bool fresh_ = true;
+};
+
+}  // namespace quintara::desktop

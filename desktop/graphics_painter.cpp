@@ -1,0 +1,180 @@
+#include "desktop/graphics_painter.h"
+
+#include <QtGui/QFontMetricsF>
+#include <QtGui/QPainter>
+#include <QtGui/QPen>
+
+#include <algorithm>
+#include <cmath>
+
+#include "desktop/appearance.h"
+#include "desktop/caption_lines.h"
+#include "desktop/pictures.h"
+#include "desktop/units.h"
+#include "scene/form.h"
+#include "scene/graphics.h"
+
+namespace quintara::desktop {
+namespace {
+
+QPen PenFor(Colour colour, int width, BorderStyle style) {
+  if (style == BorderStyle::None || width <= 0) return Qt::NoPen;
+  QPen pen(ToQColor(colour), width);
+  pen.setJoinStyle(Qt::MiterJoin);
+  if (style == BorderStyle::Dotted) {
+    pen.setCapStyle(Qt::FlatCap);
+    pen.setDashPattern({3, 3});
+  } else {
+    pen.setCapStyle(width > 1 ? Qt::RoundCap : Qt::SquareCap);
+  }
+  return pen;
+}
+
+QLine ToPixels(const Segment& ends) {
+  return {desktop::ToPixels(ends.x1), desktop::ToPixels(ends.y1), desktop::ToPixels(ends.x2),
+          desktop::ToPixels(ends.y2)};
+}
+
+QRect AreaOf(const Line& line) {
+  const QLine ends = ToPixels(line.Surface());
+  const int reach = line.looks().borderWidth / 2 + 2;
+  return QRect(ends.p1(), ends.p2()).normalized().adjusted(-reach, -reach, reach, reach);
+}
+
+QRect AreaOf(const Image& image, Pictures& pictures) {
+  const QRect place = desktop::ToPixels(image.Surface());
+  return image.looks().stretch ? place
+                               : QRect(place.topLeft(), pictures.Embedded(image.looks().picture).size());
+}
+
+// A sunken edge of one pixel.
+void PaintFrame(QPainter& painter, const QRect& place) {
+  painter.setPen(QColor(0x80, 0x80, 0x80));
+  painter.drawLine(place.topLeft(), place.topRight());
+  painter.drawLine(place.topLeft(), place.bottomLeft());
+  painter.setPen(Qt::white);
+  painter.drawLine(place.bottomLeft(), place.bottomRight());
+  painter.drawLine(place.topRight(), place.bottomRight());
+}
+
+struct FittedCaption {
+  QFont font;
+  QStringList lines;
+};
+
+bool HasRoom(const QStringList& lines, const QFontMetricsF& metrics, const QSize& room) {
+  constexpr double partOfLineThatMayBeCut = 0.4;
+  const auto linesShown = static_cast<int>(room.height() / metrics.height() + partOfLineThatMayBeCut);
+  const auto isTooWide = [&](QString line) {
+    while (line.endsWith(' ')) line.chop(1);
+    return metrics.horizontalAdvance(line) > room.width();
+  };
+  return lines.size() <= std::max(linesShown, 1) && std::none_of(lines.begin(), lines.end(), isTooWide);
+}
+
+// The fonts of this machine may be a little wider than those that the forms were laid out for. A caption that
+// its label has no room for is set a little tighter, if that helps.
+FittedCaption Fit(const QString& caption, const QFont& wanted, const QSize& room) {
+  FittedCaption fitted;
+  for (const int stretch : {100, 97, 94, 91, 88, 85}) {
+    QFont font = wanted;
+    font.setStretch(stretch);
+    const QFontMetricsF metrics(font);
+    const QStringList lines = CaptionLines(caption, metrics, room.width());
+    if (HasRoom(lines, metrics, room)) return {font, lines};
+    if (stretch == 100) fitted = {font, lines};
+  }
+  return fitted;
+}
+
+// The share of the free room that lies before a line.
+double ShareBefore(Alignment alignment) {
+  return alignment == Alignment::Left ? 0 : alignment == Alignment::Right ? 1 : 0.5;
+}
+
+void Paint(QPainter& painter, const Label& label) {
+  const LabelLooks& looks = label.looks();
+  const QRect place = desktop::ToPixels(label.Surface());
+  painter.setClipRect(place, Qt::IntersectClip);
+  if (looks.backStyle == BackStyle::Opaque) painter.fillRect(place, ToQColor(label.BackColor));
+  if (looks.framed) PaintFrame(painter, place);
+
+  const QRect inner = looks.framed ? place.adjusted(2, 1, -2, -1) : place;
+  const FittedCaption caption = Fit(ToQString(label.Caption.Get()),
+                                    ToQFont(looks.font.value_or(label.form().looks().font)), inner.size());
+  const QFontMetricsF metrics(caption.font);
+  painter.setFont(caption.font);
+  painter.setPen(ToQColor(label.ForeColor));
+  qreal baseline = inner.top() + std::round(metrics.ascent());
+  for (const QString& line : caption.lines) {
+    const qreal room = std::max(inner.width() - metrics.horizontalAdvance(line), 0.0);
+    painter.drawText(QPointF(inner.left() + ShareBefore(looks.alignment) * room, baseline), line);
+    baseline += std::round(metrics.height());
+  }
+}
+
+void Paint(QPainter& painter, const Line& line) {
+  const LineLooks& looks = line.looks();
+  const QLine ends = ToPixels(line.Surface());
+  painter.setPen(PenFor(line.BorderColor, looks.borderWidth, looks.borderStyle));
+  // Upright and level lines fill whole pixels; only a slanted one is smoothed, through the pixels' centres.
+  const bool slanted = ends.dx() != 0 && ends.dy() != 0;
+  painter.setRenderHint(QPainter::Antialiasing, slanted);
+  if (slanted) painter.translate(0.5, 0.5);
+  painter.drawLine(ends);
+}
+
+void Paint(QPainter& painter, const Shape& shape) {
+  const ShapeLooks& looks = shape.looks();
+  const bool rectangle = looks.shape == ShapeKind::Rectangle;
+  QRectF place = desktop::ToPixels(shape.Surface());
+  if (looks.shape == ShapeKind::Circle) {
+    const qreal side = std::min(place.width(), place.height());
+    place =
+        QRectF(place.x() + (place.width() - side) / 2, place.y() + (place.height() - side) / 2, side, side);
+  }
+  painter.setPen(PenFor(shape.BorderColor, looks.borderWidth, looks.borderStyle));
+  painter.setBrush(Qt::NoBrush);
+  if (looks.backStyle == BackStyle::Opaque) painter.setBrush(ToQColor(looks.backColor));
+  if (looks.fillStyle == FillStyle::Solid) painter.setBrush(ToQColor(looks.fillColor));
+  painter.setRenderHint(QPainter::Antialiasing);
+  // The border lies inside the rectangle.
+  const qreal inset = looks.borderStyle == BorderStyle::None ? 0 : looks.borderWidth / 2.0;
+  place.adjust(inset, inset, -inset, -inset);
+  if (rectangle) {
+    painter.drawRect(place);
+  } else {
+    painter.drawEllipse(place);
+  }
+}
+
+void Paint(QPainter& painter, const Image& image, Pictures& pictures) {
+  const QRect place = AreaOf(image, pictures);
+  const qreal ratio = painter.device()->devicePixelRatioF();
+  if (place.isEmpty()) return;
+  painter.drawPixmap(place, pictures.Scaled(image.looks().picture, place.size() * ratio));
+}
+
+}  // namespace
+
+QRect PaintedArea(const Object& object, Pictures& pictures) {
+  switch (object.kind()) {
+    case Kind::Line: return AreaOf(static_cast<const Line&>(object));
+    case Kind::Image: return AreaOf(static_cast<const Image&>(object), pictures);
+    default: return desktop::ToPixels(static_cast<const Box&>(object).Surface());
+  }
+}
+
+void PaintObject(QPainter& painter, const Object& object, Pictures& pictures) {
+  painter.save();
+  switch (object.kind()) {
+    case Kind::Label: Paint(painter, static_cast<const Label&>(object)); break;
+    case Kind::Line: Paint(painter, static_cast<const Line&>(object)); break;
+    case Kind::Shape: Paint(painter, static_cast<const Shape&>(object)); break;
+    case Kind::Image: Paint(painter, static_cast<const Image&>(object), pictures); break;
+    default: break;
+  }
+  painter.restore();
+}
+
+}  // namespace quintara::desktop

@@ -1,0 +1,39 @@
+#include <QtCore/QDir>
+
+#include "desktop/application.h"
+#include "desktop/desktop_platform.h"
+#include "desktop/session.h"
+#include "program/program.h"
+
+namespace {
+
+void TellIfMissing(const QString& folder, quintara::Platform& platform) {
+  if (QDir(folder).exists()) return;
+  constexpr std::int32_t okWithExclamation = 48;
+  const QString text =
+      "The folder \"%1\" is missing. The documents, the pictures of the radar and the sounds lie in it. "
+      "The game goes on without them.";
+  platform.ShowMessageBox(text.arg(QDir::toNativeSeparators(folder)).toStdString(), okWithExclamation,
+                          "Quintara");
+}
+
+}  // namespace
+
+int main(int argumentCount, char** arguments) {
+  using namespace quintara;
+  desktop::Application application(argumentCount, arguments);
+  const QString dataFolder = QCoreApplication::applicationDirPath() + "/data";
+  desktop::DesktopPlatform platform(dataFolder);
+  TellIfMissing(dataFolder, platform);
+
+  Program program(platform);
+  int result = 0;
+  {
+    desktop::Session session(program.scene());
+    platform.Attach(&session);
+    session.Run([&program] { program.Start(); });
+    if (!program.scene().ended()) result = desktop::Application::exec();
+    platform.Attach(nullptr);
+  }
+  return result;
+}

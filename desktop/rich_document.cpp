@@ -1,0 +1,99 @@
+#include "desktop/rich_document.h"
+
+#include <QtGui/QTextBlockFormat>
+#include <QtGui/QTextCharFormat>
+#include <QtGui/QTextCursor>
+#include <QtGui/QTextDocument>
+#include <QtGui/QTextListFormat>
+#include <QtGui/QTextOption>
+
+#include "desktop/appearance.h"
+#include "desktop/units.h"
+
+namespace quintara::desktop {
+namespace {
+
+QTextCharFormat FormatOf(const RichTextLook& look, const RichText& text) {
+  QTextCharFormat format;
+  const std::string& font = text.fonts[look.font];
+  format.setFontFamilies({font.empty() ? ToQString(Font{}.name) : ToQString(font)});
+  format.setProperty(QTextFormat::FontPixelSize, ToPixelSize(look.halfPoints / 2.0));
+  format.setFontWeight(WeightOf(font, look.bold));
+  format.setFontItalic(look.italic);
+  format.setFontUnderline(look.underline);
+  if (look.colour) format.setForeground(ToQColor(Colour(*look.colour)));
+  if (look.raise == RichTextRaise::Superscript)
+    format.setVerticalAlignment(QTextCharFormat::AlignSuperScript);
+  if (look.raise == RichTextRaise::Subscript) format.setVerticalAlignment(QTextCharFormat::AlignSubScript);
+  return format;
+}
+
+Qt::Alignment AlignmentOf(RichTextAlignment alignment) {
+  switch (alignment) {
+    case RichTextAlignment::Right: return Qt::AlignRight;
+    case RichTextAlignment::Centre: return Qt::AlignHCenter;
+    case RichTextAlignment::Justified: return Qt::AlignJustify;
+    case RichTextAlignment::Left: break;
+  }
+  return Qt::AlignLeft;
+}
+
+QTextOption::TabType TabTypeOf(RichTextTabKind kind) {
+  switch (kind) {
+    case RichTextTabKind::Right: return QTextOption::RightTab;
+    case RichTextTabKind::Centre: return QTextOption::CenterTab;
+    case RichTextTabKind::Decimal: return QTextOption::DelimiterTab;
+    case RichTextTabKind::Left: break;
+  }
+  return QTextOption::LeftTab;
+}
+
+QTextBlockFormat FormatOf(const RichTextFormat& paragraph) {
+  QTextBlockFormat format;
+  format.setAlignment(AlignmentOf(paragraph.alignment));
+  format.setLeftMargin(ToPixels(paragraph.leftIndent));
+  format.setRightMargin(ToPixels(paragraph.rightIndent));
+  format.setTextIndent(paragraph.bullet ? 0 : ToPixels(paragraph.firstLineIndent));
+  format.setTopMargin(ToPixels(paragraph.spaceBefore));
+  format.setBottomMargin(ToPixels(paragraph.spaceAfter));
+  QList<QTextOption::Tab> tabs;
+  for (const RichTextTab& tab : paragraph.tabs)
+    tabs.append(QTextOption::Tab(ToPixels(tab.position - paragraph.leftIndent), TabTypeOf(tab.kind), '.'));
+  format.setTabPositions(tabs);
+  return format;
+}
+
+void InsertParagraph(QTextCursor& cursor, const RichTextParagraph& paragraph, const RichText& text) {
+  cursor.setBlockFormat(FormatOf(paragraph.format));
+  if (paragraph.format.bullet) {
+    // The bullet stands out to the left of the indent that the paragraph has anyhow.
+    QTextListFormat bullets;
+    bullets.setStyle(QTextListFormat::ListDisc);
+    bullets.setIndent(0);
+    cursor.createList(bullets);
+  }
+  for (const RichTextRun& run : paragraph.runs) {
+    QString letters = ToQString(run.text);
+    cursor.insertText(letters.replace('\n', QChar(QChar::LineSeparator)), FormatOf(run.look, text));
+  }
+}
+
+}  // namespace
+
+void FillDocument(QTextDocument& document, const RichText& text) {
+  document.setUndoRedoEnabled(false);
+  document.clear();
+  QTextOption option = document.defaultTextOption();
+  option.setTabStopDistance(ToPixels(text.defaultTabs));
+  document.setDefaultTextOption(option);
+
+  QTextCursor cursor(&document);
+  cursor.beginEditBlock();
+  for (const RichTextParagraph& paragraph : text.paragraphs) {
+    if (&paragraph != &text.paragraphs.front()) cursor.insertBlock(QTextBlockFormat(), QTextCharFormat());
+    InsertParagraph(cursor, paragraph, text);
+  }
+  cursor.endEditBlock();
+}
+
+}  // namespace quintara::desktop

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QtWidgets/QTextEdit>
+
+#include <cstddef>
+
+#include "desktop/control.h"
+#include "scene/text_controls.h"
+
+namespace quintara::desktop {
+
+// Shows a document for reading and selecting.
+class RichTextWidget final : public QTextEdit, public Control {
+ public:
+  RichTextWidget(RichTextBox& box, QWidget& parent, Session& session);
+
+ protected:
+  void ShowLooks() override;
+
+ private:
+  void HandInSelection();
+  void ShowSelection();
+  int CharactersBefore(int position) const;
+  int PositionOf(int characters) const;
+
+  RichTextBox& box_;
+  std::size_t shown_ = 0;  // a hash of the document on show
+};
+
+}  // namespace quintara::desktop

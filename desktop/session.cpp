@@ -1,0 +1,124 @@
+#include "desktop/session.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <algorithm>
+#include <exception>
+#include <utility>
+
+#include "desktop/form_window.h"
+#include "scene/form.h"
+#include "scene/scene.h"
+
+namespace quintara::desktop {
+namespace {
+
+// A window may go in a handler of its own button, so it stays alive until that is over.
+void Retire(FormWindow* window) {
+  window->hide();
+  window->deleteLater();
+}
+
+}  // namespace
+
+Session::Session(Scene& scene) : scene_(scene) {
+  realTime_.start();
+  nextTick_.setSingleShot(true);
+  nextTick_.setTimerType(Qt::PreciseTimer);
+  QObject::connect(&nextTick_, &QTimer::timeout, [this] { Tick(); });
+}
+
+Session::~Session() {
+  for (auto& [form, window] : windows_) delete window.release();
+}
+
+void Session::Run(const std::function<void()>& input) {
+  CatchUp();
+  RunGuarded(input);
+}
+
+void Session::Tick() {
+  CatchUp();
+  RunGuarded([this] { scene_.dispatcher().AdvanceTo(scene_.dispatcher().now()); });
+}
+
+void Session::RunGuarded(const std::function<void()>& work) {
+  // A fault ends here: Qt, which called us, is not made for exceptions that pass through it.
+  try {
+    work();
+  } catch (const std::exception& fault) {
+    TellFault(fault.what());
+  }
+  Settle();
+}
+
+void Session::TellFault(const std::string& what) {
+  qWarning("Quintara: %s", what.c_str());
+  // A timer may meet the same fault at each of its ticks.
+  if (told_.insert(what).second)
+    scene_.TellFault("Something went wrong inside the game: " + what + ". The game goes on without it.");
+}
+
+void Session::CatchUp() {
+  Dispatcher& dispatcher = scene_.dispatcher();
+  dispatcher.PassTime(realTime_.elapsed() - dispatcher.now());
+}
+
+void Session::Settle() {
+  // A handler that waits for the user settles when it is done; until then nothing may tick.
+  Dispatcher& dispatcher = scene_.dispatcher();
+  if (dispatcher.busy()) return;
+  ShowChanges();
+  const auto due = dispatcher.NextDue();
+  if (due) {
+    nextTick_.start(static_cast<int>(std::clamp<qint64>(*due - realTime_.elapsed(), 0, 60'000)));
+  } else {
+    nextTick_.stop();
+  }
+}
+
+void Session::BeginWaiting() {
+  nextTick_.stop();
+  ShowChanges();
+}
+
+void Session::ShowChanges() {
+  if (scene_.ended()) return;
+  for (Form* form : std::exchange(toShow_, {})) {
+    auto window = windows_.find(form);
+    if (window == windows_.end())
+      window = windows_.try_emplace(form, new FormWindow(*form, *this), &Retire).first;
+    window->second->Follow();
+    window->second->BringToFront();
+  }
+  for (auto& [form, window] : windows_) window->Follow();
+}
+
+void Session::FormShown(Form& form) {
+  std::erase(toShow_, &form);
+  toShow_.push_back(&form);
+}
+
+void Session::FormUnloaded(Form& form) {
+  std::erase(toShow_, &form);
+  windows_.erase(&form);
+}
+
+void Session::ProgramEnded() {
+  toShow_.clear();
+  windows_.clear();
+  nextTick_.stop();
+  // Not quit(), which asks every window first.
+  QCoreApplication::exit();
+}
+
+bool Session::PointerMoved(const QPoint& screen) {
+  return std::exchange(pointer_, screen) != screen;
+}
+
+FormWindow* Session::WindowOf(const Form& form) const {
+  const auto found = windows_.find(&form);
+  return found == windows_.end() ? nullptr : found->second.get();
+}
+
+}  // namespace quintara::desktop

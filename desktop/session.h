@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QPoint>
+#include <QtCore/QTimer>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "desktop/pictures.h"
+
+namespace quintara {
+class Form;
+class Scene;
+}  // namespace quintara
+
+namespace quintara::desktop {
+
+class FormWindow;
+
+// A running program on the screen: a window for each of its forms, and the real time that drives its timers.
+// While nothing happens it sleeps until the next tick is due.
+class Session {
+ public:
+  // The scene must outlive the session.
+  explicit Session(Scene& scene);
+  ~Session();
+  Session(const Session&) = delete;
+  Session& operator=(const Session&) = delete;
+
+  // Hands the user's input to the Scene and shows what came of it. All input goes through here. A fault in a
+  // handler is told to the user, and the program goes on.
+  void Run(const std::function<void()>& input);
+
+  // Shows the Scene as it stands in the middle of a handler that is about to wait for the user.
+  void BeginWaiting();
+  // The handler goes on: no timer ticked in the time that it waited.
+  void EndWaiting() { CatchUp(); }
+
+  void FormShown(Form& form);
+  void FormUnloaded(Form& form);
+  void ProgramEnded();
+
+  // Whether the pointer has come to another place since the last call. Windows also report a move when
+  // something appears or vanishes below a pointer at rest.
+  bool PointerMoved(const QPoint& screen);
+
+  // Null where the form has no window.
+  FormWindow* WindowOf(const Form& form) const;
+  Scene& scene() const { return scene_; }
+  Pictures& pictures() { return pictures_; }
+
+ private:
+  void CatchUp();
+  void Tick();
+  void RunGuarded(const std::function<void()>& work);
+  void TellFault(const std::string& what);
+  void Settle();
+  void ShowChanges();
+
+  Scene& scene_;
+  Pictures pictures_;
+  QElapsedTimer realTime_;
+  QTimer nextTick_;
+  std::map<const Form*, std::unique_ptr<FormWindow, void (*)(FormWindow*)>> windows_;
+  std::vector<Form*> toShow_;
+  std::optional<QPoint> pointer_;
+  std::set<std::string> told_;
+};
+
+}  // namespace quintara::desktop

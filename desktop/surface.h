@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QtCore/QRect>
+#include <QtGui/QPixmap>
+#include <QtWidgets/QWidget>
+
+#include <optional>
+#include <vector>
+
+#include "desktop/drawing_layer.h"
+#include "scene/container.h"
+#include "scene/picture_box.h"
+
+namespace quintara::desktop {
+
+class Control;
+class Session;
+
+// The surface of a form or picture box: background, picture, drawing layer and graphical objects are painted
+// on it; whatever has a surface of its own is a widget on top.
+class Surface : public QWidget {
+ public:
+  Surface(Container& container, QWidget& parent, Session& session);
+
+  // Takes over what has changed in the Scene since the last call and repaints those parts.
+  void FollowSurface();
+  // The widget of a child of this surface, or null.
+  QWidget* WidgetOf(const Object& object) const;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+
+ private:
+  // A graphical object as it was painted last.
+  struct Painted {
+    const Object* object;
+    ChangeCount seen;
+    bool visible;
+    QRect area;
+  };
+  struct Child {
+    const Object* object;
+    Control* control;
+  };
+
+  void FollowBackground();
+  void MakeChildren();
+  void FollowPainted();
+  Painted StateOf(const Object& object) const;
+  Object* Under(const QMouseEvent& event) const;
+
+  Container& container_;
+  Session& session_;
+  DrawingLayer layer_;
+  QPixmap picture_;
+  std::optional<Picture> shownPicture_;
+  std::optional<Colour> shownColour_;
+  std::vector<Child> children_;
+  std::vector<Painted> painted_;
+  std::optional<ChangeCount> childrenSeen_;
+  const Object* pressed_ = nullptr;
+};
+
+}  // namespace quintara::desktop

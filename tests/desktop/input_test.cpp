@@ -1,0 +1,211 @@
+#include <gtest/gtest.h>
+
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QTextCursor>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QListView>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QSlider>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QStyleOptionSlider>
+#include <QtWidgets/QTextEdit>
+
+#include "tests/desktop/window_form.h"
+
+namespace quintara::desktop {
+namespace {
+
+class InputTest : public WindowTest {
+ protected:
+  InputTest() {
+    Note(form.imgFire.Click, "fire");
+    Note(form.imgFire.MouseMove, "over fire");
+    Note(form.imgOver.MouseMove, "over image");
+    Note(form.picFront.MouseMove, "over box");
+    Note(form.cmdPush.Click, "push");
+    Note(form.cmdPush.MouseMove, "over push");
+  }
+
+  // A click with the mouse, wherever the widget is that takes it.
+  void ClickAt(int left, int top) {
+    QWidget* widget = window().childAt(Pixel(left, top));
+    QTest::mouseClick(widget, Qt::LeftButton, {}, widget->mapFrom(&window(), Pixel(left, top)));
+  }
+  void MoveTo(int left, int top) {
+    QWidget* widget = window().childAt(Pixel(left, top));
+    QTest::mouseMove(widget, widget->mapFrom(&window(), Pixel(left, top)));
+  }
+  void Type(QWidget& widget, const char* text) { QTest::keyClicks(&widget, text); }
+};
+
+TEST_F(InputTest, AClickOnAnImageIsAPressAndAReleaseOverIt) {
+  ClickAt(3100, 400);
+  EXPECT_EQ(heard, Heard{"fire"});
+  QTest::mousePress(&window().surface(), Qt::LeftButton, {}, Pixel(3100, 400));
+  QTest::mouseRelease(&window().surface(), Qt::LeftButton, {}, Pixel(2900, 400));
+  QTest::mousePress(&window().surface(), Qt::LeftButton, {}, Pixel(2900, 400));
+  QTest::mouseRelease(&window().surface(), Qt::LeftButton, {}, Pixel(3100, 400));
+  QTest::mouseClick(&window().surface(), Qt::RightButton, {}, Pixel(3100, 400));
+  Do([&] { form.imgFire.Enabled = false; });
+  ClickAt(3100, 400);
+  EXPECT_EQ(heard, Heard{"fire"});
+  EXPECT_NE(ColourAt(3210, 510), QColor(0, 255, 0)) << "a disabled image is drawn as usual";
+}
+
+TEST_F(InputTest, MovesReachWhatIsUnderThePointer) {
+  MoveTo(400, 400);
+  MoveTo(1000, 1000);
+  MoveTo(3210, 510);
+  MoveTo(3100, 1000);
+  EXPECT_EQ(heard, (Heard{"over image", "over box", "over fire", "over push"}));
+  heard.clear();
+  MoveTo(3100, 1000);
+  EXPECT_EQ(heard, Heard{}) << "the pointer rests";
+
+  Do([&] {
+    form.imgOver.Enabled = false;
+    form.cmdPush.Left = 300.0;
+    form.cmdPush.Top = 1500.0;
+    form.cmdPush.Enabled = false;
+  });
+  MoveTo(400, 400);
+  EXPECT_EQ(heard, Heard{"over box"}) << "a disabled image lets the mouse through";
+  MoveTo(900, 1600);
+  ClickAt(900, 1600);
+  EXPECT_EQ(heard, (Heard{"over box", "over box"})) << "a disabled button too";
+}
+
+TEST_F(InputTest, ButtonsTakeMouseAndKeys) {
+  ClickAt(3300, 1050);
+  QTest::keyClick(&WidgetOf(form.cmdPush), Qt::Key_Space);
+  EXPECT_EQ(heard, (Heard{"push", "push"}));
+  EXPECT_TRUE(WidgetOf(form.cmdPush).hasFocus());
+  Do([&] { form.cmdPush.Enabled = false; });
+  window().activateWindow();
+  EXPECT_EQ(window().focusWidget(), &window()) << "the focus does not wander to another button";
+  QTest::keyClick(&WidgetOf(form.cmdPush), Qt::Key_Space);
+  ClickAt(3300, 1050);
+  EXPECT_EQ(heard, (Heard{"push", "push"}));
+}
+
+TEST_F(InputTest, AScrollBarMayCountDownwards) {
+  auto& bar = WidgetOf<QScrollBar>(form.vsbUpside);
+  Note(form.vsbUpside.Change, "change");
+  const auto press = [&](QStyle::SubControl part) {
+    QStyleOptionSlider option;
+    option.initFrom(&bar);
+    option.orientation = bar.orientation();
+    option.maximum = bar.maximum();
+    option.pageStep = bar.pageStep();
+    option.sliderPosition = option.sliderValue = bar.value();
+    const QRect place = bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, part, &bar);
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, place.center());
+  };
+  ASSERT_EQ(bar.value(), bar.maximum()) << "250 is the bottom end";
+  press(QStyle::SC_ScrollBarSubLine);
+  EXPECT_EQ(form.vsbUpside.Value, 260);
+  press(QStyle::SC_ScrollBarSubPage);
+  EXPECT_EQ(form.vsbUpside.Value, 320);
+  press(QStyle::SC_ScrollBarAddPage);
+  press(QStyle::SC_ScrollBarAddLine);
+  EXPECT_EQ(form.vsbUpside.Value, 250);
+  press(QStyle::SC_ScrollBarAddLine);
+  EXPECT_EQ(heard.size(), 4U) << "at the end nothing changes";
+  QTest::keyClick(&bar, Qt::Key_Home);
+  EXPECT_EQ(form.vsbUpside.Value, 750);
+  QTest::keyClick(&bar, Qt::Key_Down);
+  EXPECT_EQ(form.vsbUpside.Value, 740);
+  Do([&] { form.vsbUpside.Value = 300; });
+  EXPECT_EQ(bar.value(), 450);
+}
+
+TEST_F(InputTest, AThumbThatIsDraggedSetsTheValueWhenItIsLetGo) {
+  auto& bar = WidgetOf<QScrollBar>(form.vsbUpside);
+  Note(form.vsbUpside.Change, "change");
+  bar.setSliderDown(true);
+  bar.setSliderPosition(100);
+  bar.setSliderPosition(200);
+  EXPECT_EQ(heard, Heard{});
+  bar.setSliderDown(false);
+  EXPECT_EQ(heard, Heard{"change"});
+  EXPECT_EQ(form.vsbUpside.Value, 550);
+
+  auto& slider = WidgetOf<QSlider>(form.sldRuled);
+  Note(form.sldRuled.Scroll, "scroll");
+  slider.setSliderDown(true);
+  slider.setSliderPosition(5);
+  EXPECT_EQ(form.sldRuled.Value, 15) << "a slider tells while it is dragged";
+  slider.setSliderDown(false);
+  Do([&] { form.sldRuled.Value = 20; });
+  EXPECT_EQ(slider.value(), 10);
+  EXPECT_EQ(heard, (Heard{"change", "scroll"})) << "what code writes is no scroll";
+}
+
+TEST_F(InputTest, KeysGoToTheTextBoxThatHasTheFocus) {
+  std::vector<int> keys;
+  form.txtName.KeyPress.Bind([&](std::int16_t key) {
+    keys.push_back(key);
+    if (key == 13) form.lstNames.AddItem(form.txtName.Text.Get());
+  });
+  Do([&] { form.txtName.SetFocus(); });
+  EXPECT_TRUE(WidgetOf(form.txtName).hasFocus());
+  auto& edit = WidgetOf<QLineEdit>(form.txtName);
+  QTest::keyClicks(&edit, "Ada?");
+  QTest::keyClick(&edit, Qt::Key_Backspace);
+  QTest::keyClick(&edit, Qt::Key_Return);
+  EXPECT_EQ(keys, (std::vector<int>{'A', 'd', 'a', '?', 8, 13}));
+  EXPECT_EQ(form.txtName.Text.Get(), "Ada");
+  EXPECT_EQ(WidgetOf<QListView>(form.lstNames).model()->rowCount(), 1);
+}
+
+TEST_F(InputTest, EditsInTheMiddleReachTheScene) {
+  auto& edit = WidgetOf<QLineEdit>(form.txtName);
+  QTest::keyClicks(&edit, "ac");
+  QTest::keyClick(&edit, Qt::Key_Left);
+  QTest::keyClicks(&edit, "b");
+  EXPECT_EQ(form.txtName.Text.Get(), "abc");
+  EXPECT_EQ(edit.cursorPosition(), 2);
+  QTest::keyClick(&edit, Qt::Key_Backspace);
+  QTest::keyClick(&edit, Qt::Key_Delete);
+  EXPECT_EQ(form.txtName.Text.Get(), "a");
+  QGuiApplication::clipboard()->setText(QString::fromUtf8("\u00FCber\nall"));
+  edit.selectAll();
+  QTest::keyClick(&edit, Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(form.txtName.Text.Get(), "\u00FCber all");
+  Do([&] { form.txtName.Text = "by code"; });
+  EXPECT_EQ(edit.text(), "by code");
+}
+
+TEST_F(InputTest, ASelectionIsCountedInWholeCharacters) {
+  Do([&] { form.rtbText.TextRTF = std::string("{\\rtf1 a\\u-10179?\\u-8704?b\\par \\b cde}"); });
+  auto& text = WidgetOf<QTextEdit>(form.rtbText);
+  ASSERT_EQ(text.toPlainText().toStdString(), form.rtbText.PlainText());
+  Note(form.rtbText.SelChange, "selected");
+  QTextCursor cursor = text.textCursor();
+  cursor.setPosition(3);
+  cursor.setPosition(7, QTextCursor::KeepAnchor);
+  text.setTextCursor(cursor);
+  EXPECT_EQ(form.rtbText.SelStart(), 2);
+  EXPECT_EQ(form.rtbText.SelText(), "b\ncd");
+  EXPECT_EQ(heard, Heard{"selected"});
+  Do([&] { form.rtbText.Select(1, 2); });
+  EXPECT_EQ(text.textCursor().selectionStart(), 1);
+  EXPECT_EQ(text.textCursor().selectionEnd(), 4);
+}
+
+TEST_F(InputTest, AListOfManyLinesIsShownAtOnce) {
+  QElapsedTimer time;
+  time.start();
+  Do([&] {
+    for (int i = 0; i < 400'000; ++i) form.lstNames.AddItem("a line of some twenty");
+    form.lstNames.AddItem(std::string(1 << 20, 'x'));
+  });
+  QTest::qWait(0);
+  EXPECT_EQ(WidgetOf<QListView>(form.lstNames).model()->rowCount(), 400'001);
+  EXPECT_LT(time.elapsed(), 5000);
+}
+
+}  // namespace
+}  // namespace quintara::desktop

@@ -1,0 +1,143 @@
+#include <gtest/gtest.h>
+
+#include <QtCore/QCoreApplication>
+#include <QtGui/QFontMetricsF>
+#include <QtGui/QScreen>
+
+#include <limits>
+
+#include "desktop/appearance.h"
+#include "desktop/caption_lines.h"
+#include "tests/desktop/window_form.h"
+
+namespace quintara::desktop {
+namespace {
+
+const QColor green(0, 255, 0), blue(0, 0, 255), red(255, 0, 0), yellow(255, 255, 0), white(255, 255, 255);
+
+class PaintingTest : public WindowTest {
+ protected:
+  // What is on the screen by now. Unlike a grab, it repaints nothing of its own accord.
+  QImage OnScreen() {
+    QCoreApplication::processEvents();
+    return window().screen()->grabWindow(window().winId()).toImage();
+  }
+  bool ScreenIsUpToDate() {
+    const QImage screen = OnScreen();
+    return window().grab().toImage().convertToFormat(screen.format()) == screen;
+  }
+};
+
+TEST_F(PaintingTest, WhatHasASurfaceHidesWhatLiesBehind) {
+  EXPECT_EQ(ColourAt(150, 2700), green);
+  EXPECT_EQ(ColourAt(150, 660), red);
+  EXPECT_EQ(ColourAt(1000, 660), blue) << "a box hides the labels of its container";
+  EXPECT_EQ(ColourAt(1200, 1050), blue) << "the box listed first is in front";
+  EXPECT_EQ(ColourAt(2000, 1050), white);
+  EXPECT_EQ(ColourAt(1650, 1650), yellow);
+  EXPECT_EQ(ColourAt(1950, 1650), white) << "a box clips what it holds";
+  EXPECT_EQ(ColourAt(2250, 2100), red);
+
+  Do([&] { form.picFront.Visible = false; });
+  EXPECT_EQ(ColourAt(1000, 660), red);
+  EXPECT_EQ(ColourAt(1200, 1050), white);
+}
+
+TEST_F(PaintingTest, ChangesAreRepaintedAndLeaveNothingBehind) {
+  ASSERT_TRUE(ScreenIsUpToDate());
+  Do([&] {
+    form.shpInBox.Left = 300.0;
+    form.shpInBox.Width = 300.0;
+    form.picBack.Left = 3300.0;
+    form.lblBehind.Caption = "moved";
+    form.lblBehind.Top = 3300.0;
+    form.Line1.Load(1);
+    form.Line1(1).Y1 = form.Line1(1).Y2 = 600.0;
+    form.Line1(1).Visible = true;
+  });
+  EXPECT_TRUE(ScreenIsUpToDate());
+  EXPECT_EQ(ColourAt(1650, 1650), blue);
+  EXPECT_EQ(ColourAt(700, 1700), yellow);
+  EXPECT_EQ(ColourAt(4500, 1500), red) << "the loaded line";
+
+  Do([&] {
+    form.Line1.Unload(1);
+    form.imgFire.Visible = false;
+    form.BackColor = 0x00FF0000;
+  });
+  EXPECT_TRUE(ScreenIsUpToDate());
+  EXPECT_EQ(ColourAt(4500, 1500), white);
+  EXPECT_EQ(ColourAt(3210, 510), blue);
+}
+
+TEST_F(PaintingTest, DotsStayUntilTheyAreWiped) {
+  Do([&] {
+    form.picBack.DrawWidth = 2;
+    for (int i = 0; i < 3000; ++i) form.picBack.PSet(900 + i * 0.1, 450, Colour(0x000000FF));
+    form.PSet(150, 3000, Colour(0x000000FF));
+  });
+  Do([&] { form.picBack.PSet(1050, 750, Colour(0x0000FF00)); });
+  EXPECT_TRUE(ScreenIsUpToDate());
+  EXPECT_EQ(ColourAt(2010, 1350), red);
+  EXPECT_EQ(ColourAt(1950, 1650), green);
+  EXPECT_EQ(ColourAt(150, 3000), red);
+
+  Do([&] {
+    form.picBack.Cls();
+    form.picBack.PSet(300, 450, Colour(0x000000FF));
+  });
+  EXPECT_TRUE(ScreenIsUpToDate());
+  EXPECT_EQ(ColourAt(2010, 1350), white);
+  EXPECT_EQ(ColourAt(150, 3000), red) << "another surface";
+}
+
+TEST_F(PaintingTest, PlacesBeyondAllBoundsAreHarmless) {
+  const double huge = 3e38;
+  Do([&] {
+    form.shpInBox.Left = huge;
+    form.shpInBox.Width = -5.0;
+    form.Line1(0).X2 = huge;
+    form.Line1(0).Y2 = std::numeric_limits<double>::quiet_NaN();
+    form.picFront.Left = -huge;
+    form.lblBehind.Height = huge;
+    form.imgOver.Width = huge;
+  });
+  EXPECT_TRUE(ScreenIsUpToDate());
+}
+
+TEST_F(PaintingTest, TheLookOfTheSystemStaysOutside) {
+  EXPECT_EQ(ColourAt(3030, 1160), QColor(0xC0, 0xC0, 0xC0)) << "the face of a button";
+  EXPECT_EQ(WidgetOf(form.txtName).palette().color(QPalette::Base), white);
+  EXPECT_EQ(WidgetOf(form.txtName).palette().color(QPalette::Text), QColor(Qt::black));
+  EXPECT_EQ(ToQFont({"MS Sans Serif", 6.75}).pixelSize(), 9);
+  EXPECT_EQ(ToQFont({"MS Sans Serif", 8.25}).pixelSize(), 11);
+  EXPECT_EQ(ToQFont({"Arial Black", 18, true, true}).pixelSize(), 24);
+}
+
+TEST_F(PaintingTest, ACaptionWiderThanItsButtonIsDrawnSmaller) {
+  Do([&] { form.cmdPush.Caption = "A long caption"; });
+  const QWidget& button = WidgetOf(form.cmdPush);
+  EXPECT_LE(button.fontMetrics().horizontalAdvance("A long caption"), 60);
+  Do([&] { form.cmdPush.Caption = "Push"; });
+  EXPECT_EQ(button.font().pixelSize(), 11);
+}
+
+TEST(CaptionLinesTest, BreaksWhereTheNextWordDoesNotFitAndKeepsTheBlanks) {
+  const QFontMetricsF metrics(ToQFont(Font{}));
+  const auto widthOf = [&](const char* text) { return metrics.horizontalAdvance(text) + 0.01; };
+  using Lines = QStringList;
+  EXPECT_EQ(CaptionLines("one two", metrics, widthOf("one two")), Lines({"one two"}));
+  EXPECT_EQ(CaptionLines("one two", metrics, widthOf("one tw")), Lines({"one", "two"}));
+  EXPECT_EQ(CaptionLines(" one       two", metrics, widthOf(" one     ")), Lines({" one", "  two"}))
+      << "blanks that don't fit begin the next line";
+  EXPECT_EQ(CaptionLines("one   two", metrics, widthOf("two")), Lines({"one", "two"}))
+      << "unless a word would not fit behind them";
+  EXPECT_EQ(CaptionLines("  one  two   ", metrics, 1000), Lines({"  one  two   "}));
+  EXPECT_EQ(CaptionLines("one two  ", metrics, widthOf("two")), Lines({"one", "two  "}));
+  EXPECT_EQ(CaptionLines("one two", metrics, 0), Lines({"one", "two"}))
+      << "a word that is too long stays whole";
+  EXPECT_EQ(CaptionLines("one\r\n\ntwo", metrics, 1000), Lines({"one", "", "two"}));
+}
+
+}  // namespace
+}  // namespace quintara::desktop

@@ -1,0 +1,168 @@
+#include <gtest/gtest.h>
+
+#include <QtCore/QThread>
+#include <QtCore/QTimer>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
+
+#include <stdexcept>
+
+#include "tests/desktop/window_form.h"
+
+namespace quintara::desktop {
+namespace {
+
+class SessionTest : public WindowTest {
+ protected:
+  // Looks again and again until a box or menu of that kind is open, and does something to it.
+  template <typename Widget>
+  void WhenOpen(std::function<void(Widget&)> action) {
+    QTimer::singleShot(5, &window(), [this, action] {
+      QWidget* open = QApplication::activePopupWidget();
+      if (open == nullptr) open = QApplication::activeModalWidget();
+      if (auto* widget = qobject_cast<Widget*>(open)) return action(*widget);
+      WhenOpen<Widget>(action);
+    });
+  }
+  bool WaitForTicks(int wanted) {
+    return QTest::qWaitFor([&] { return ticks >= wanted; }, 5000);
+  }
+  void StartClock(int interval) {
+    Do([this, interval] {
+      form.tmrClock.Interval = interval;
+      form.tmrClock.Enabled = true;
+    });
+  }
+
+  int ticks = 0;
+};
+
+TEST_F(SessionTest, TimersTickInRealTime) {
+  form.tmrClock.Tick.Bind([&] { ++ticks; });
+  QElapsedTimer time;
+  time.start();
+  StartClock(20);
+  ASSERT_TRUE(WaitForTicks(5));
+  EXPECT_GE(time.elapsed(), 5 * 20 - 1);
+  Do([&] { form.tmrClock.Enabled = false; });
+  const int before = ticks;
+  QTest::qWait(60);
+  EXPECT_EQ(ticks, before);
+}
+
+TEST_F(SessionTest, TicksLostToALongHandlerAreNotMadeUp) {
+  std::vector<qint64> times;
+  QElapsedTimer time;
+  form.tmrClock.Tick.Bind([&] {
+    times.push_back(time.elapsed());
+    if (++ticks == 1) QThread::msleep(200);
+  });
+  time.start();
+  StartClock(20);
+  ASSERT_TRUE(WaitForTicks(4));
+  EXPECT_GT(times[3] - times[1], 15) << "one comes late, then the rhythm goes on";
+}
+
+TEST_F(SessionTest, AMessageBoxHoldsTheTicks) {
+  int whileOpen = -1;
+  std::int32_t answer = 0;
+  form.tmrClock.Tick.Bind([&] { ++ticks; });
+  StartClock(10);
+  WhenOpen<QMessageBox>([&](QMessageBox& box) {
+    EXPECT_EQ(box.windowTitle(), "Title");
+    EXPECT_EQ(ColourAt(3210, 510), QColor(255, 0, 0)) << "what the handler did so far shows";
+    const int before = ticks;
+    QTest::qWait(80);
+    whileOpen = ticks - before;
+    QTest::mouseClick(box.button(QMessageBox::No), Qt::LeftButton);
+  });
+  Do([&] {
+    form.imgFire.Visible = false;
+    form.BackColor = 0x000000FF;
+    answer = scene.MsgBox("Text", 52, "Title");
+  });
+  EXPECT_EQ(whileOpen, 0);
+  EXPECT_EQ(answer, 7);
+  EXPECT_TRUE(WaitForTicks(ticks + 3)) << "and they go on afterwards";
+}
+
+TEST_F(SessionTest, APopupMenuGivesTheChosenItem) {
+  Note(form.mnuTwo.Click, "two");
+  bool chosen = false;
+  WhenOpen<QMenu>([&](QMenu& menu) {
+    EXPECT_EQ(menu.actions().size(), 3);
+    EXPECT_EQ(menu.pos(), window().mapToGlobal(Pixel(1500, 750)));
+    QTest::keyClick(&menu, Qt::Key_Up);
+    QTest::keyClick(&menu, Qt::Key_Return);
+  });
+  Do([&] { chosen = form.PopupMenu(form.mnuTop, 1500, 750); });
+  EXPECT_TRUE(chosen);
+  EXPECT_EQ(heard, Heard{"two"});
+  WhenOpen<QMenu>([&](QMenu& menu) { QTest::keyClick(&menu, Qt::Key_Escape); });
+  Do([&] { chosen = form.PopupMenu(form.mnuTop, 0, 0); });
+  EXPECT_FALSE(chosen);
+}
+
+TEST_F(SessionTest, FormsComeAndGo) {
+  EXPECT_EQ(session.WindowOf(other), nullptr);
+  Show(other);
+  EXPECT_EQ(session.WindowOf(other)->windowTitle(), "Trial");
+  Note(other.QueryUnload, "query");
+  Do([&] { other.lblBehind.Caption = "changed"; });
+  EXPECT_FALSE(session.WindowOf(other)->close()) << "the Scene takes the window away";
+  EXPECT_EQ(heard, Heard{"query"});
+  EXPECT_FALSE(other.loaded());
+  EXPECT_EQ(session.WindowOf(other), nullptr);
+  Show(other);
+  EXPECT_TRUE(session.WindowOf(other)->isVisible());
+
+  // A form may go in a handler of its own button.
+  other.cmdPush.Click.Bind([&] { other.Unload(); });
+  auto* button = qobject_cast<QPushButton*>(session.WindowOf(other)->WidgetOf(other.cmdPush));
+  QTest::mouseClick(button, Qt::LeftButton);
+  EXPECT_EQ(session.WindowOf(other), nullptr);
+
+  QTimer::singleShot(0, &window(), [this] { window().close(); });
+  EXPECT_EQ(QApplication::exec(), 0) << "the last form takes the application with it";
+  EXPECT_TRUE(scene.ended());
+}
+
+TEST_F(SessionTest, WindowsStandWhereTheFormsSay) {
+  EXPECT_EQ(window().pos(), QPoint(200, 100));
+  EXPECT_EQ(window().size(), QSize(600, 400));
+  Do([&] {
+    form.Left = 1501.0;
+    form.Width = 4590.0;
+    form.Caption = "Other";
+  });
+  EXPECT_EQ(window().pos(), QPoint(100, 100));
+  EXPECT_EQ(window().size(), QSize(300, 400));
+  EXPECT_EQ(window().windowTitle(), "Other");
+  EXPECT_EQ(form.Left.Get(), 1501.0) << "the rounding stays outside";
+
+  window().move(100, 200);
+  EXPECT_EQ(form.Top.Get(), 3000.0) << "the user moves it";
+  EXPECT_EQ(form.Left.Get(), 1501.0);
+  Do([&] { form.Top = -90000.0; });
+  EXPECT_EQ(window().pos(), QPoint(100, 0)) << "the title bar stays within reach";
+  EXPECT_EQ(form.Top.Get(), -90000.0);
+}
+
+TEST_F(SessionTest, AFaultInAHandlerIsToldAndTheGameGoesOn) {
+  form.cmdPush.Click.Bind([&] { form.Line1(7).Visible = true; });
+  form.tmrClock.Tick.Bind([&] { ++ticks; });
+  StartClock(10);
+  QString told;
+  WhenOpen<QMessageBox>([&](QMessageBox& box) {
+    told = box.text();
+    box.accept();
+  });
+  QTest::mouseClick(&WidgetOf(form.cmdPush), Qt::LeftButton);
+  EXPECT_TRUE(told.contains("Line1(7)")) << told.toStdString();
+  EXPECT_TRUE(WaitForTicks(ticks + 2));
+}
+
+}  // namespace
+}  // namespace quintara::desktop
