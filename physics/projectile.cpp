@@ -60,6 +60,7 @@ void ProjectileForm::LayDial() {
   Label6(0).Visible = true;
 }
 
+// Everything else that Load made goes with the form.
 void ProjectileForm::Form_QueryUnload() {
   for (mLoopIndex = 1; mLoopIndex <= 7; ++mLoopIndex) Label8.Unload(mLoopIndex);
 }

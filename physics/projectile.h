@@ -49,7 +49,7 @@ class ProjectileForm : public ProjectileControls {
   void LayResultant();
   void MoveHand(int position);
   void OfferReset();
-  // How long the arrow of the fall is: it grows with the way that ball 2 has fallen, not with its velocity.
+  // Length of the y arrow, twips: it grows with the way that ball 2 has fallen, not with its velocity.
   double FallArrow() const { return (Shape2.Top - 480) * 0.26; }
 
   template <typename... Controls>
@@ -62,7 +62,7 @@ class ProjectileForm : public ProjectileControls {
   }
 
   std::int16_t mBallMode = idle;
-  std::int16_t mBallRate = 0;  // what each of the two steps that run adds to mBallX, twips a second
+  std::int16_t mBallRate = 0;  // twips a second that the steps of balls 1 and 2 each add to mBallX
   Single mBallX;               // twips run so far; ball 1 stands at mBallX + 500
   Single mBallVy;              // m/s, negative downwards
   Single mBallY;               // metres, negative downwards, 0 at the start
