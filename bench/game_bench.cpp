@@ -50,7 +50,7 @@ void BareLoop(benchmark::State& state) {
     const auto round = [](double x) { return static_cast<double>(static_cast<float>(x)); };
     double vx = round(750 * std::cos(1.39)), vy = round(750 * std::sin(1.39)), x = 0, y = 0, time = 0,
            speed = 0;
-    for (int step = 1; step < 3750; ++step) {
+    for (std::int64_t step = 0; step < state.range(0); ++step) {
       const double drag = round(((k * 0.001) * std::sqrt(vx * vx + vy * vy)) * vx);
       const double ax = -drag;
       const double ay = round(-9.8 - drag);
@@ -65,7 +65,7 @@ void BareLoop(benchmark::State& state) {
     benchmark::DoNotOptimize(x + y + time);
   }
 }
-BENCHMARK(BareLoop);
+BENCHMARK(BareLoop)->ArgName("steps")->Arg(3749)->Arg(1499);
 
 void ChangeOfLaying(benchmark::State& state) {
   Game game;
@@ -100,6 +100,34 @@ void TickOfTheShell(benchmark::State& state) {
   }
 }
 BENCHMARK(TickOfTheShell);
+
+// A change of the elevation at 300 m/s: 1499 steps, every dot above the floor on the chart.
+void ReplayOfTheSimulator(benchmark::State& state) {
+  Game game;
+  TrajectoryForm& form = game.program.trajectory();
+  form.Show();
+  UserDragsTo(form.HScroll2, 300);
+  std::int16_t elevation = 290;
+  for (auto _ : state) {
+    elevation = static_cast<std::int16_t>(581 - elevation);
+    form.HScroll1.Value = elevation;
+  }
+}
+BENCHMARK(ReplayOfTheSimulator);
+
+// Each step of the slider flies the shell to its distance again.
+void SliderOfTheSimulator(benchmark::State& state) {
+  Game game;
+  TrajectoryForm& form = game.program.trajectory();
+  form.Show();
+  UserDragsTo(form.HScroll2, 300);
+  std::int32_t position = 0;
+  for (auto _ : state) {
+    position = position == 100 ? 0 : position + 1;
+    UserDragsTo(form.Slider1, position);
+  }
+}
+BENCHMARK(SliderOfTheSimulator);
 
 // Search, laying, six flights and the Reset to the next game.
 void WholeGame(benchmark::State& state) {

@@ -111,6 +111,7 @@ void QuintaraForm::Preview(double dt, PreviewOf previewed) {
     }
     if (plots) PlotShell();
   }
+  if (plots && gStepCount > 1) Label4.Caption = bonusLayingText;
 }
 
 void QuintaraForm::ShowTimeToImpact(Single seconds) {
@@ -119,7 +120,6 @@ void QuintaraForm::ShowTimeToImpact(Single seconds) {
 
 // Marks the two places where the shell's markers would stand.
 void QuintaraForm::PlotShell() {
-  Label4.Caption = bonusLayingText;
   Picture5.PSet(gPosX * 0.438, 9250 - gPosY * 0.55, QBColor(6));
   Picture11.PSet(gPosX * 0.438 - 790, mProfileHeight + 640 - gPosY * 0.55, QBColor(6));
 }

@@ -36,8 +36,8 @@ class PictureBox : public Box, public Container {
   Property<quintara::Picture> Picture;
   Event<> MouseMove;
 
-  double InnerWidth() const override { return Surface().width; }
-  double InnerHeight() const override { return Surface().height; }
+  double InnerWidth() const override { return Width.Twips(container()->scale()); }
+  double InnerHeight() const override { return Height.Twips(container()->scale()); }
   void Restore() override;
 
  private:

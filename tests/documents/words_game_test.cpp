@@ -1,0 +1,247 @@
+#include <gtest/gtest.h>
+
+#include "tests/documents/words.h"
+
+namespace quintara::words {
+namespace {
+
+// ---- The files ----
+
+TEST(DocumentTest, IsReadWithoutLoss) {
+  const std::set<std::string_view> known = {
+      "ansi", "b",  "blue", "bullet", "cf",  "colortbl", "deff", "deftab",   "f",      "fi",  "fonttbl",
+      "fs",   "i",  "li",   "green",  "par", "pard",     "pn",   "pnlvlblt", "pntext", "red", "plain",
+      "ri",   "sa", "sb",   "rtf",    "sub", "super",    "tab",  "tqc",      "tqr",    "tx",  "u"};
+  const std::set<std::string_view> unseen = {"colortbl", "fonttbl", "pn", "pntext"};
+  constexpr int deepest = 1000;
+  for (const Document& document : documents) {
+    SCOPED_TRACE(document.file);
+    const std::string source = Source(document.file);
+    ASSERT_EQ(source.substr(0, 6), "{\\rtf1");
+    int depth = 0;
+    int shownBelow = deepest;
+    std::ptrdiff_t letters = 0;
+    RichTextTokens tokens(source);
+    for (RichTextToken token = tokens.Next(); token.kind != RichTextToken::Kind::End; token = tokens.Next()) {
+      if (token.kind == RichTextToken::Kind::GroupStart) ++depth;
+      if (token.kind == RichTextToken::Kind::GroupEnd && --depth < shownBelow) shownBelow = deepest;
+      if (token.kind == RichTextToken::Kind::Word) {
+        EXPECT_TRUE(known.contains(token.word)) << token.word;
+        if (unseen.contains(token.word)) shownBelow = std::min(shownBelow, depth);
+      }
+      EXPECT_LT(token.byte, 0x80) << "not plain ASCII";
+      if (token.kind == RichTextToken::Kind::Byte && std::isalpha(token.byte) && depth < shownBelow)
+        ++letters;
+    }
+    EXPECT_EQ(depth, 0) << "braces that do not match";
+    const std::string text = ReadRichText(source).PlainText();
+    EXPECT_EQ(std::count_if(text.begin(), text.end(),
+                            [](unsigned char c) { return c < 0x80 && std::isalpha(c) != 0; }),
+              letters);
+    EXPECT_EQ(text.find_first_of("\\{}"), std::string::npos);
+    EXPECT_EQ(text.find("\uFFFD"), std::string::npos);
+  }
+}
+
+// By and large: letters of Arial are half as wide as high, those of Courier New 0.6 times.
+double WidthOfLetter(const RichText& document, const RichTextLook& look) {
+  const bool even = document.fonts[look.font] == "Courier New";
+  return look.halfPoints * 10 * (even ? 0.6 : look.bold ? 0.55 : 0.5);
+}
+
+TEST(DocumentTest, KeepsTablesAndCodeWithinItsWindow) {
+  constexpr int frame = 60, margins = 180, scrollBar = 255;
+  for (const Document& file : documents) {
+    const RichText document = ReadRichText(Source(file.file));
+    for (const RichTextParagraph& paragraph : document.paragraphs) {
+      std::string line;
+      std::vector<double> cells(1);
+      bool isCode = false;
+      for (const RichTextRun& run : paragraph.runs) {
+        line += run.text;
+        isCode = isCode || document.fonts[run.look.font] == "Courier New";
+        for (const char c : run.text) {
+          if (c == '\t') {
+            cells.push_back(0);
+          } else if ((c & 0xC0) != 0x80) {
+            cells.back() += WidthOfLetter(document, run.look);
+          }
+        }
+      }
+      if (cells.size() == 1 && !isCode) continue;
+      SCOPED_TRACE(std::string(file.file) + ": " + line);
+      const RichTextFormat& format = paragraph.format;
+      ASSERT_LE(cells.size() - 1, format.tabs.size());
+      double end = format.leftIndent + cells[0];
+      for (std::size_t i = 1; i < cells.size(); ++i) {
+        const RichTextTab& tab = format.tabs[i - 1];
+        double start = tab.position;
+        if (tab.kind == RichTextTabKind::Right) start -= cells[i];
+        if (tab.kind == RichTextTabKind::Centre) start -= cells[i] / 2;
+        EXPECT_GE(start, end);
+        end = start + cells[i];
+      }
+      EXPECT_LE(end, file.width - frame - margins - scrollBar - format.rightIndent);
+    }
+  }
+}
+
+TEST(DocumentTest, NamesFilesThatAreThere) {
+  RunningGame game;
+  game.Start();
+  for (const Document& document : {documents[5], documents[6]}) {
+    for (const auto& name : Found(document.file, "([A-Za-z0-9~]+\\.(?:rtf|txt|wav))")) {
+      const bool madeByTheGame = name[0] == "extra.txt";
+      EXPECT_TRUE(fs::exists((madeByTheGame ? game.folder.path() : DataFolder()) / name[0])) << name[0];
+    }
+  }
+}
+
+TEST(DocumentTest, OpensFromTheHelpMenu) {
+  RunningGame game;
+  fs::copy(DataFolder() / "Help", game.folder.path() / "Help");
+  fs::copy(DataFolder() / "Readme.rtf", game.folder.path());
+  game.Start();
+  const char* const items[] = {"mnuIntro",       "mnuScenario", "mnuRules", "mnuPhysics",
+                               "mnuCodeSegment", "mnuPrint",    "mnuReadme"};
+  for (std::size_t i = 0; i < std::size(items); ++i) {
+    game.platform.menuAnswers = {items[i]};
+    game.Click(game.form.cmdHelp);
+    const RichTextBox& box = i == 6 ? game.form.txtReadme : game.program.analysis().rtbMath;
+    EXPECT_EQ(box.PlainText(), ReadRichText(Source(documents[i].file)).PlainText()) << items[i];
+  }
+}
+
+// ---- The game ----
+
+TEST(IntroductionTest, ItsLayingsHit) {
+  const auto table = Found(introduction, "\n\t[N] km\t[N] degrees\t[N] m/s");
+  EXPECT_GE(table.size(), 3u);
+  for (const auto& row : table) EXPECT_TRUE(Hits(row[0], std::stod(row[1]), std::stod(row[2]))) << row[0];
+
+  const auto worked =
+      Found(introduction, "at [N] km: [N] \u00D7 \u221A\\([N] / [N]\\) = [N]\\. Try [N] degrees and [N] m/s");
+  ASSERT_EQ(worked.size(), 1u);
+  const auto n = Numbers(introduction, ": [N] \u00D7 \u221A\\([N] / [N]\\) = [N]");
+  EXPECT_EQ(std::lround(n[0] * std::sqrt(n[1] / n[2])), n[3]);
+  EXPECT_TRUE(Hits(worked[0][0], std::stod(worked[0][5]), std::stod(worked[0][6])));
+}
+
+TEST(IntroductionTest, TheSearchIsNoLongerThanItSays) {
+  Found(introduction, "within a quarter of a minute");
+  Gun gun;
+  gun.OpenProfile(6000);
+  EXPECT_LE(gun.program.scene().dispatcher().now(), 15'000);
+}
+
+TEST(RulesTest, TheConsoleReachesAsFarAsTheySay) {
+  const auto elevations = Numbers(rules, "[N] to [N] degrees");
+  const auto velocities = Numbers(rules, "[N] to [N] m/s");
+  const auto constants = Numbers(rules, "drag constant, from [N] to [N]\\.");
+  for (const std::size_t end : {0U, 1U}) {
+    Gun gun;
+    gun.OpenProfile();
+    gun.Lay(end == 0 ? 0 : 90, end == 0 ? 0 : 1000);
+    EXPECT_EQ(Val(gun.form.Label1.Caption), elevations[end]);
+    EXPECT_EQ(Val(gun.form.Label6.Caption), velocities[end]);
+    gun.chance.Queue(end == 0 ? 0 : 0.999);
+    gun.Click(gun.form.cmdAdvanced);
+    EXPECT_EQ(Val(gun.form.Label15.Caption), constants[end]);
+  }
+}
+
+TEST(RulesTest, TheTargetIsAsLongAsTheySay) {
+  const auto zone = Numbers(rules, "less than [N] m in front of the target or less than [N] m behind it");
+  EXPECT_EQ(Numbers(introduction, "less than [N] m in front of it or less than [N] m behind it"), zone);
+  for (const auto& [x, points] :
+       {std::pair{-zone[0] - 2, 0}, {-zone[0] + 2, 5}, {zone[1] - 2, 5}, {zone[1] + 2, 0}}) {
+    Gun gun;
+    gun.OpenProfile();
+    gun.FireTo(Gun::target + x, -1);
+    EXPECT_EQ(gun.Actual(), points) << x;
+  }
+}
+
+TEST(RulesTest, PointsAreCountedAsTheTableSays) {
+  const auto points = [](const std::string& row) { return Numbers(rules, "\n" + row + "[N]")[0]; };
+  Gun gun;
+  gun.OpenProfile();
+  gun.FireTo(Gun::besideIt, -1);
+  EXPECT_EQ(gun.Max(), Numbers(rules, "[N] in a new game")[0] + points("Miss without drag\t\t"));
+  gun.FireTo(Gun::target, -1);
+  EXPECT_EQ(gun.Actual(), points("Hit without drag\t"));
+  gun.GoOn();
+  double before = gun.Max();
+  gun.TurnDragOn(0.005);
+  EXPECT_EQ(gun.Max() - before, points("Drag switched on\t\t"));
+  before = gun.Actual();
+  gun.FireTo(Gun::target, -1);
+  EXPECT_EQ(gun.Actual() - before, points("Hit with drag\t"));
+  gun.GoOn();
+  gun.TurnDragOn(0.005);
+  before = gun.Max();
+  gun.FireTo(Gun::besideIt, -1);
+  EXPECT_EQ(gun.Max() - before, points("Miss with drag\t\t"));
+  for (int shell = 5; shell <= 6; ++shell) {
+    before = gun.Max();
+    gun.FireTo(Gun::besideIt, -1);
+    EXPECT_EQ(gun.Max() - before,
+              points("Miss without drag\t\t") + points("Miss with shell 5 or 6\t\tthen "));
+  }
+}
+
+TEST(RulesTest, TheSampleGameEndsAsTheySay) {
+  Gun gun;
+  int shells = 0;
+  for (const auto& row : Found(rules, "\n([A-Z][^\t\n]+)\t([0-9]+)\t([0-9]*)(?=\n)")) {
+    const std::string& event = row[0];
+    if (event == "The profile opens") gun.OpenProfile();
+    if (event == "Drag switched on") gun.TurnDragOn(0.005);
+    if (event.find("Reset") != std::string::npos) gun.GoOn();
+    if (event.starts_with("Shell")) {
+      EXPECT_EQ(gun.form.Label15.Caption != "0", event.ends_with("with drag")) << event;
+      EXPECT_EQ(Val(event.substr(6)), ++shells);
+      gun.FireTo(event.find("hits") != std::string::npos ? Gun::target : Gun::besideIt, -1);
+    }
+    EXPECT_EQ(gun.form.Label17.Caption, row[1]) << event;
+    EXPECT_EQ(gun.form.Label23.Visible ? gun.form.Label23.Caption.Get() : "", row[2]) << event;
+  }
+  EXPECT_EQ(shells, 6);
+}
+
+TEST(RulesTest, TheBestGameAndTheMastersNeedThePointsTheySay) {
+  Gun gun;
+  gun.OpenProfile();
+  for (int shell = 1; shell <= 5; ++shell) {
+    gun.TurnDragOn(0.005);
+    gun.FireTo(Gun::target, -1);
+    gun.GoOn();
+  }
+  EXPECT_FALSE(gun.form.cmdAdvanced.Enabled);
+  gun.FireTo(Gun::target, -1);
+  EXPECT_EQ(gun.Actual(), Numbers(rules, "= [N] points")[0]);
+
+  const auto needed = Numbers(rules, "your score to [N] or more makes you a Master[^;]*; [N] or more");
+  const struct {
+    double score;
+    const char* entry;
+  } cases[] = {{needed[0] - 1, nullptr},
+               {needed[0], " - Master of Quintara"},
+               {needed[1] - 1, " - Master of Quintara"},
+               {needed[1], " - Grand Master of Quintara"}};
+  for (const auto& [score, entry] : cases) {
+    Gun other;
+    other.OpenProfile();
+    for (int shell = 1; shell <= 5; ++shell) other.FireTo(Gun::besideIt, -1);
+    other.form.Label17.Caption = ToText(score - 5);
+    other.FireTo(Gun::target, -1);
+    MastersForm& masters = other.program.masters();
+    EXPECT_EQ(masters.IsVisible(), entry != nullptr) << score;
+    if (entry == nullptr) continue;
+    UserTypes(masters.Text1, 13);
+    EXPECT_EQ(masters.List1.List(0), entry);
+  }
+}
+
+}  // namespace
+}  // namespace quintara::words

@@ -1,0 +1,333 @@
+#include <gtest/gtest.h>
+
+#include "tests/documents/words.h"
+
+namespace quintara::words {
+namespace {
+
+// ---- The physics ----
+
+// What the formulas say of a shot in metres and seconds.
+struct Parabola {
+  Parabola(double degrees, double velocity) {
+    const double angle = degrees * std::numbers::pi / 180;
+    range = velocity * velocity * std::sin(2 * angle) / 9.8;
+    height = std::pow(velocity * std::sin(angle), 2) / 19.6;
+    time = 2 * velocity * std::sin(angle) / 9.8;
+  }
+  double range, height, time;
+};
+
+// To half of the last decimal that is shown.
+constexpr double whole = 0.501, tenth = 0.0501;
+
+TEST(AnalysisTest, TheProjectileWindowShowsItsNumbers) {
+  Gun gun;
+  ProjectileForm& bench = gun.program.projectile();
+  const auto hand = [&bench] {
+    const double turn = std::atan2(bench.Line8.X2 - 500, 500 - bench.Line8.Y2) / std::numbers::pi * 4;
+    return static_cast<std::int16_t>(std::lround(turn + 8) % 8);
+  };
+  // What the labels say while the hand stands there.
+  std::map<int, std::string> across, fall, velocity;
+  bench.Show();
+  gun.Click(bench.cmdBall1);
+  for (; bench.tmrStart.Enabled; gun.Advance(50)) {
+    const auto at = static_cast<std::int16_t>(hand() - 1);
+    if (at >= 0) across[hand()] = bench.Label8(at).Caption;
+  }
+  gun.Click(bench.cmdReset);
+  gun.Click(bench.cmdBall2);
+  for (; bench.tmrStart.Enabled; gun.Advance(50)) {
+    if (hand() == 0) continue;
+    fall[hand()] = bench.Label4(static_cast<std::int16_t>(hand() - 1)).Caption;
+    velocity[hand()] = bench.Label14.Caption;
+  }
+  const auto table = Rows(analysis, "\n\t[N]\t[N] m\t[N] m\t[N] m/s");
+  EXPECT_EQ(table.size(), 6u);
+  for (const auto& row : table) {
+    const int second = static_cast<int>(row[0]);
+    EXPECT_EQ(Val(across[second]), row[1]);
+    EXPECT_EQ(Val(fall[second + 1]), row[2]);
+    EXPECT_EQ(velocity[second + 1], "= " + ToText(-row[3]) + " m/s");
+  }
+  const auto read = Numbers(analysis, "hand stands on [N], you read [N] m and [N] m/s");
+  EXPECT_EQ(Val(fall[static_cast<int>(read[0])]), read[1]);
+  EXPECT_EQ(velocity[static_cast<int>(read[0])], "= " + ToText(read[2]) + " m/s");
+}
+
+struct Simulator : Gun {
+  Simulator() { window.Show(); }
+  // In the order that the text asks for; the last bar is moved even where it stands right.
+  void Set(double drag, double velocity, double elevation) {
+    UserDragsTo(window.HScroll3, Short(drag * 100));
+    UserDragsTo(window.HScroll2, Short(velocity));
+    UserDragsTo(window.HScroll1, Short(370 - elevation + (elevation > 20 ? 1 : -1)));
+    UserDragsTo(window.HScroll1, Short(370 - elevation));
+  }
+  TrajectoryForm& window = program.trajectory();
+};
+
+TEST(AnalysisTest, TheSimulatorShowsItsNumbers) {
+  Simulator simulator;
+  TrajectoryForm& window = simulator.window;
+  const auto table = Found(analysis, "\n\t[N]\t[N]\t[N]\t[N]\t[N]\t[N]\t[N](?=\n)");
+  EXPECT_GE(table.size(), 5u);
+  for (const auto& row : table) {
+    simulator.Set(std::stod(row[2]), std::stod(row[1]), std::stod(row[0]));
+    const std::vector<std::string> shown = {
+        window.Label5.Caption,  window.Label6.Caption,  window.Label11.Caption, window.Label20.Caption,
+        window.Label21.Caption, window.Label27.Caption, window.Label29.Caption};
+    EXPECT_EQ(shown, row);
+  }
+  for (const auto& row : Rows(analysis, "\n\t[N]\t[N]\t[N]\t[N]\t[N]\t[N](?=\n)")) {
+    const Parabola exact(row[0], row[1]);
+    EXPECT_NEAR(exact.range, row[2], whole);
+    EXPECT_NEAR(exact.height, row[3], whole);
+    EXPECT_EQ(row[1], row[4]);
+    EXPECT_NEAR(exact.time, row[5], tenth);
+  }
+}
+
+TEST(AnalysisTest, TheSimulatorAnswersItsQuestions) {
+  Simulator simulator;
+  TrajectoryForm& window = simulator.window;
+  const auto question = Numbers(analysis, "greatest range in the simulator for [N] m/s and a drag of [N]\\.");
+  const auto answer = Numbers(analysis, "\n[N] degrees, with [N] m\\.");
+  std::map<double, double> anglesByRange;
+  for (int angle = 20; angle <= 80; ++angle) {
+    simulator.Set(question[1], question[0], angle);
+    anglesByRange[Val(window.Label20.Caption)] = angle;
+  }
+  EXPECT_EQ(anglesByRange.rbegin()->first, answer[1]);
+  EXPECT_EQ(anglesByRange.rbegin()->second, answer[0]);
+
+  const auto shot = Numbers(analysis, "For [N] degrees, [N] m/s and no drag it finds the top");
+  const auto top = Numbers(analysis, "top at x = [N] and y = [N]: [^:]* across is [N], .* speed is [N]\\.");
+  simulator.Set(0, shot[1], shot[0]);
+  std::map<double, std::vector<double>> byHeight;
+  for (int position = 1; position <= 90; ++position) {
+    UserDragsTo(window.Slider1, position);
+    const double y = Val(window.Label21.Caption);
+    byHeight[y] = {Val(window.Label20.Caption), y, Val(window.Label23.Caption), Val(window.Label27.Caption)};
+    EXPECT_EQ(Val(window.Label23.Caption), top[2]) << "everywhere";
+  }
+  EXPECT_EQ(byHeight.rbegin()->second, top);
+}
+
+TEST(AnalysisTest, TheFormulasGiveItsNumbers) {
+  const auto example = Numbers(analysis, "[N] degrees and [N] m/s give R = [N] m, H = [N] m and T = [N] s");
+  const Parabola exact(example[0], example[1]);
+  EXPECT_NEAR(exact.range, example[2], whole);
+  EXPECT_NEAR(exact.height, example[3], whole);
+  EXPECT_NEAR(exact.time, example[4], tenth);
+  const auto reach = Numbers(analysis, "For [N] km and [N] degrees that is [N] m/s");
+  EXPECT_NEAR(std::sqrt(reach[0] * 1000 / Parabola(reach[1], 1).range), reach[2], 0.5);
+
+  const auto drag = Numbers(analysis, "D = [N] \u00D7 0.001 \u00D7 [N] \u00D7 [N] = [N] m");
+  EXPECT_NEAR(drag[0] * 0.001 * drag[1] * drag[2], drag[3], 1e-9);
+  EXPECT_NEAR(Numbers(analysis, "gravity seems to be [N] m")[0], 9.8 + drag[3], 1e-9);
+}
+
+TEST(AnalysisTest, TheStepMovesTheImpactAsItSays) {
+  const auto shot = Numbers(analysis, "For [N] degrees and [N] m/s the parabola ends at [N] m");
+  EXPECT_NEAR(Parabola(shot[0], shot[1]).range, shot[2], whole);
+  const std::map<std::string, double> settings = {{"Slow", 1}, {"Middle", 8}, {"Fast", 15}};
+  const auto steps =
+      Numbers(analysis, "needs almost [N] steps on Slow, which take [N] s .* only [N] on Fast");
+  const auto table = Found(analysis, "\n(Slow|Middle|Fast)\t[N] s\t[N] m\t[N] s");
+  EXPECT_EQ(table.size(), settings.size());
+  for (const auto& row : table) {
+    Gun gun;
+    gun.OpenProfile();
+    UserDragsTo(gun.form.HScroll1, Short(settings.at(row[0])));
+    gun.Lay(shot[0], shot[1]);
+    const std::string& time = gun.form.Label31.Caption;
+    EXPECT_EQ(time.substr(time.find_first_of("0123456789")), row[3] + " (sec)");
+    const std::int64_t start = gun.program.scene().dispatcher().now();
+    gun.Fire();
+    const auto watched = static_cast<double>(gun.program.scene().dispatcher().now() - start);
+    EXPECT_EQ(gun.Actual(), 5);
+    EXPECT_NEAR(gun.form.gDt, std::stod(row[1]), 1e-6);
+    EXPECT_NEAR(gun.form.gPosX, std::stod(row[2]), whole);
+    const double made = std::round(gun.form.gFlightTime / gun.form.gDt);
+    if (row[0] == "Slow") {
+      EXPECT_TRUE(made < steps[0] && made > steps[0] - 10) << made;
+      EXPECT_NEAR(watched / 1000, steps[1], 0.5);
+    }
+    if (row[0] == "Fast") {
+      EXPECT_EQ(made, steps[2]);
+      EXPECT_LT(watched, 2000);
+    }
+  }
+  const auto check = Numbers(analysis, "[N] - 2 \u00D7 [N] \u00D7 [N] = [N], and [^=]* = [N]\\.");
+  EXPECT_NEAR(check[0] - 2 * check[1] * check[2], check[3], 0.5);
+  EXPECT_NEAR(steps[2] * check[1] * check[2], check[4], 0.5);
+
+  const auto hits = Numbers(analysis, "does [N] m/s hit on Slow but not on Fast, and [N] m/s on Fast");
+  const auto target =
+      Found(analysis, "The target is [N] km away, and the elevation shall be [N] degrees").at(0);
+  const double elevation = std::stod(target[1]);
+  EXPECT_TRUE(Hits(target[0], elevation, hits[0], 1) && !Hits(target[0], elevation, hits[0], 15));
+  EXPECT_TRUE(Hits(target[0], elevation, hits[1], 15) && !Hits(target[0], elevation, hits[1], 1));
+  const double needed = std::sqrt(std::stod(target[0]) * 1000 / Parabola(elevation, 1).range);
+  EXPECT_NEAR(Numbers(analysis, "sin 120\u00B0\\) = [N] m/s")[0], needed, 0.5);
+}
+
+TEST(AnalysisTest, DragShortensTheShotAsItSays) {
+  const auto table = Rows(analysis, "\n\t[N]\t[N] km");
+  EXPECT_EQ(table.size(), 4u);
+  for (const auto& row : table) {
+    Gun gun;
+    gun.OpenProfile();
+    UserDragsTo(gun.form.HScroll1, 1);
+    if (row[0] > 0) gun.TurnDragOn(row[0]);
+    gun.Lay(60, 500);
+    gun.Fire();
+    EXPECT_NEAR(gun.form.gPosX / 1000, row[1], tenth);
+  }
+}
+
+// ---- The code ----
+
+// Works out the lines of the document, each stored with single precision.
+class Reckoner {
+ public:
+  std::map<std::string, double> values;
+
+  void Store(const std::string& name, const std::string& expression) {
+    values[name] = Single(Work(expression));
+  }
+  double Work(const std::string& expression) {
+    rest_ = Replaced(expression, " ", "");
+    const double result = Sum();
+    EXPECT_EQ(rest_, "") << expression;
+    return result;
+  }
+
+ private:
+  bool Take(char symbol) {
+    if (rest_.empty() || rest_[0] != symbol) return false;
+    rest_.erase(0, 1);
+    return true;
+  }
+  double Sum() {
+    double sum = Product();
+    for (;;) {
+      if (Take('+')) {
+        sum += Product();
+      } else if (Take('-')) {
+        sum -= Product();
+      } else {
+        return sum;
+      }
+    }
+  }
+  double Product() {
+    double product = Factor();
+    for (;;) {
+      if (Take('*')) {
+        product *= Factor();
+      } else if (Take('/')) {
+        product /= Factor();
+      } else {
+        return product;
+      }
+    }
+  }
+  double Factor() {
+    if (Take('-')) return -Factor();
+    if (Take('(')) {
+      const double inner = Sum();
+      EXPECT_TRUE(Take(')'));
+      return inner;
+    }
+    std::size_t length = rest_.find_first_of("+-*/()");
+    const std::string word = rest_.substr(0, length);
+    rest_.erase(0, word.size());
+    if (word == "sqrt") return Sqr(Factor());
+    if (word == "cos") return Cos(Factor());
+    if (word == "sin") return Sin(Factor());
+    if (values.contains(word)) return values[word];
+    return std::stod(word, &length);
+  }
+
+  std::string rest_;
+};
+
+TEST(CodeTest, ItsLinesFlyTheShell) {
+  const auto begin = Found(code, "\n(angle|vx|vy) = ([^\n]*)");
+  const auto lines = Found(code, "\n[1-9]  ([a-z]+) += ([^\n=]*[a-z][^\n=]*)");
+  ASSERT_EQ(begin.size(), 3u);
+  ASSERT_EQ(lines.size(), 9u);
+  Gun gun;
+  gun.OpenProfile();
+  gun.TurnDragOn(0.01);
+  gun.Lay(61, 430);
+  gun.Click(gun.form.Image7);
+  Reckoner shell;
+  shell.values = {{"elevation", 61}, {"velocity", 430}, {"k", 0.01}, {"dt", Single(0.885)},
+                  {"x", 0},          {"y", 0},          {"t", 0}};
+  for (const auto& line : begin) shell.Store(line[0], line[1]);
+  for (int step = 1; step <= 40; ++step) {
+    gun.Advance(17);
+    for (const auto& line : lines) shell.Store(line[0], line[1]);
+    const std::vector<double> game = {gun.form.gDragTerm, gun.form.gAx,   gun.form.gAy,
+                                      gun.form.gVx,       gun.form.gVy,   gun.form.gSpeed,
+                                      gun.form.gPosX,     gun.form.gPosY, gun.form.gFlightTime};
+    std::vector<double> document(lines.size());
+    for (std::size_t i = 0; i < lines.size(); ++i) document[i] = shell.values[lines[i][0]];
+    ASSERT_EQ(document, game) << "step " << step;
+  }
+}
+
+TEST(CodeTest, ItsStepByHandIsRight) {
+  Gun gun;
+  gun.OpenProfile();
+  const auto shot = Numbers(code, "Elevation [N] degrees, velocity [N] m/s, no drag, flight time on Fast");
+  gun.Lay(shot[0] + 1, shot[1]);
+  gun.Lay(shot[0], shot[1]);
+  gun.Click(gun.form.Image7);
+  const auto before = Numbers(code, "vx = [N] m/s and vy = [N] m/s");
+  EXPECT_NEAR(gun.form.gVx, before[0], tenth);
+  EXPECT_NEAR(gun.form.gVy, before[1], tenth);
+  gun.Advance(17);
+  const QuintaraForm& form = gun.form;
+  const double after[] = {form.gDragTerm, form.gAx,   form.gAy,   form.gVx,        form.gVy,
+                          form.gSpeed,    form.gPosX, form.gPosY, form.gFlightTime};
+  const auto lines = Found(code, "\n([1-9])  [a-z]+ += (?:([^\n=]+) = )?[N](?=\n)");
+  std::size_t checked = 0;
+  for (const auto& line : lines) {
+    const double shown = std::stod(line[2]);
+    EXPECT_NEAR(after[std::stoul(line[0]) - 1], shown, tenth) << line[0];
+    if (!line[1].empty()) {
+      EXPECT_NEAR(Reckoner().Work(line[1]), shown, 0.06) << line[0];
+    }
+    ++checked;
+  }
+  EXPECT_EQ(checked, 9u);
+  const auto place = Numbers(code, "the shell is [N] m away and [N] m high");
+  EXPECT_NEAR(form.gPosX, place[0], tenth);
+  EXPECT_NEAR(form.gPosY, place[1], tenth);
+}
+
+TEST(CodeTest, ItsStepsAreAsLongAsItSays) {
+  Simulator simulator;
+  TrajectoryForm& window = simulator.window;
+  simulator.Set(0, 100, 45);
+  UserDragsTo(window.Slider1, 1);
+  const double slider = Numbers(code, "Simulator, curve and slider\t[N] s")[0];
+  const double sliderSteps = Val(window.Label29.Caption) / slider;
+  EXPECT_NEAR(sliderSteps, std::round(sliderSteps), 0.09);
+  simulator.Click(window.cmdFire);
+  simulator.Advance(100);
+  EXPECT_EQ(Val(window.Label29.Caption), Numbers(code, "Simulator, Fire button\t[N] s")[0]);
+  const double slow = Numbers(code, "flight time on Slow\t[N] s")[0];
+  EXPECT_EQ(Numbers(code, "each notch towards Fast\t[N] s more")[0], slow);
+  const auto fast = Numbers(code, "flight time on Fast\t[N] \u00D7 [N] = [N] s");
+  EXPECT_EQ(fast, (std::vector<double>{15, slow, 0.885}));
+  EXPECT_EQ(simulator.form.HScroll1.Max, 15);
+}
+
+}  // namespace
+}  // namespace quintara::words
