@@ -49,7 +49,7 @@ Canvas PaintMasters() {
   PaintCypress(brush, 14, 560, 330);
   PaintCypress(brush, 737, 560, 372);
   PaintTemple(brush);
-  PaintWreath(brush, {375, 440}, 54);
+  PaintWreath(brush, {375, 469}, 42);
   PaintBrazier(brush, {226, 516});
   PaintBrazier(brush, {524, 516});
   return large.Reduced(fine);

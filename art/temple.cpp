@@ -5,7 +5,11 @@
 namespace quintara::art {
 namespace {
 
-constexpr double columnTop = 152;
+// The window shows this picture narrower and much lower than it is painted: 750 by 694 become 737 by 600.
+// These are the places of the list of names, and of the columns below the title, so that they fit when shown.
+constexpr Point listTopLeft{171, 213};
+constexpr Point listBottomRight{579, 403};
+constexpr double columnTop = 170;
 constexpr double columnFoot = 514;
 constexpr double columns[] = {58, 122, 628, 692};
 constexpr double columnRadius = 23;
@@ -56,10 +60,11 @@ void PaintWall(Brush& brush) {
 void PaintTablet(Brush& brush) {
   const auto box = [](double margin) {
     return [margin](Point p) {
-      return BoxDistance(p, {168 - margin, 184 - margin}, {569 + margin, 348 + margin});
+      return BoxDistance(p, {listTopLeft.x - margin, listTopLeft.y - margin},
+                         {listBottomRight.x + margin, listBottomRight.y + margin});
     };
   };
-  const Box around{120, 140, 620, 400};
+  const Box around{120, 170, 630, 460};
   brush.Fill(
       around,
       [&](Point p) {
@@ -68,10 +73,10 @@ void PaintTablet(Brush& brush) {
       Rgb(0x2C2440), 0.42);
   const auto bevel = [](double margin, Color light, Color dark) {
     return [=](Point p) {
-      const double right = 569 + margin - p.x;
-      const double left = p.x - 168 + margin;
-      const double top = p.y - 184 + margin;
-      const double bottom = 348 + margin - p.y;
+      const double right = listBottomRight.x + margin - p.x;
+      const double left = p.x - listTopLeft.x + margin;
+      const double top = p.y - listTopLeft.y + margin;
+      const double bottom = listBottomRight.y + margin - p.y;
       const bool lit = std::min(right, top) < std::min(left, bottom);
       const double polish =
           0.12 * Fractal(p.x * 0.03, p.y * 0.4, 3, 302) + 0.10 * Sine((p.x + 2 * p.y) / 330);
@@ -82,8 +87,8 @@ void PaintTablet(Brush& brush) {
   brush.Fill(around, box(16), bevel(16, Rgb(0xA87428), Rgb(0xD8A040)));
   brush.Fill(around, box(7), bevel(7, Rgb(0x6C4014), Rgb(0xF8D478)));
   brush.Fill(around, box(4), Rgb(0x30303C));
-  for (double x : {150.5, 586.5}) {
-    for (double y : {166.5, 365.5}) {
+  for (double x : {listTopLeft.x - 17.5, listBottomRight.x + 17.5}) {
+    for (double y : {listTopLeft.y - 17.5, listBottomRight.y + 17.5}) {
       brush.Fill(
           around,
           [=](Point p) {
@@ -116,7 +121,7 @@ void PaintColumn(Brush& brush, double x) {
         return std::max(std::fabs(p.x - x) - radiusAt(p.y), std::max(columnTop + 20 - p.y, p.y - 500));
       },
       [=](Point p) {
-        const double shade = 0.30 * (1 - SmoothStep(172, 192, p.y));
+        const double shade = 0.30 * (1 - SmoothStep(columnTop + 20, columnTop + 40, p.y));
         return Marble(p, ShaftLight((p.x - x) / radiusAt(p.y)) - shade);
       });
   const auto roundPart = [&](double top, double bottom, double radius, double belly) {
@@ -132,9 +137,9 @@ void PaintColumn(Brush& brush, double x) {
           return Marble(p, 0.55 + 0.38 * side - 0.25 * (p.y - top) / (bottom - top));
         });
   };
-  roundPart(169, 173, 20.5, 1.5);
-  roundPart(160, 170, 22, 4);
-  PaintCourse(brush, x - 29, 152, x + 29, 161, 0.66);
+  roundPart(columnTop + 17, columnTop + 21, 20.5, 1.5);
+  roundPart(columnTop + 8, columnTop + 18, 22, 4);
+  PaintCourse(brush, x - 29, columnTop, x + 29, columnTop + 9, 0.66);
   roundPart(494, 500, 23, 3);
   roundPart(499, 507, 25, 3.5);
   PaintCourse(brush, x - 30, 506, x + 30, 515, 0.62);
@@ -142,27 +147,27 @@ void PaintColumn(Brush& brush, double x) {
 
 // Rosettes and a pair of lines on a plain ground, so that a title stays easy to read.
 void PaintEntablature(Brush& brush) {
-  PaintCourse(brush, 24, 136, 726, 153, 0.56);
-  PaintCourse(brush, 22, 131, 728, 138, 0.74);
-  PaintCourse(brush, 26, 68, 724, 132, 0.80);
+  PaintCourse(brush, 24, columnTop - 16, 726, columnTop + 1, 0.56);
+  PaintCourse(brush, 22, columnTop - 21, 728, columnTop - 14, 0.74);
+  PaintCourse(brush, 26, 68, 724, columnTop - 20, 0.80);
   for (double x : {56.0, 104.0, 646.0, 694.0}) {
     for (int petal = 0; petal < 8; ++petal) {
       const double px = x + 11 * Cosine(petal / 8.0);
-      const double py = 100 + 11 * Sine(petal / 8.0);
+      const double py = 109 + 11 * Sine(petal / 8.0);
       brush.Fill(
-          {static_cast<int>(x) - 24, 76, static_cast<int>(x) + 24, 124},
+          {static_cast<int>(x) - 24, 85, static_cast<int>(x) + 24, 133},
           [=](Point p) {
             return DiscDistance(p, {px, py}, 5.4);
           },
           [=](Point p) { return Marble(p, 0.58 + (p.x - px - p.y + py) / 14); });
     }
     brush.Fill(
-        {static_cast<int>(x) - 24, 76, static_cast<int>(x) + 24, 124},
+        {static_cast<int>(x) - 24, 85, static_cast<int>(x) + 24, 133},
         [=](Point p) {
-          return DiscDistance(p, {x, 100}, 5.6);
+          return DiscDistance(p, {x, 109}, 5.6);
         },
         [=](Point p) {
-          return Mix(Rgb(0x906018), Rgb(0xFFE488), Clamp01(0.5 + (p.x - x - p.y + 100) / 12));
+          return Mix(Rgb(0x906018), Rgb(0xFFE488), Clamp01(0.5 + (p.x - x - p.y + 109) / 12));
         });
   }
   PaintCourse(brush, 18, 62, 732, 69, 0.60);

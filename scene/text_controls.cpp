@@ -64,6 +64,7 @@ void RichTextBox::WriteTextRTF(std::string rtf) {
   plainText_ = document_.PlainText();
   selectionStart_ = selectionLength_ = 0;
   TextRTF.Keep(std::move(rtf), changeCount());
+  ++changeCount();  // the same document again still takes the selection away
 }
 
 void RichTextBox::Select(std::int32_t start, std::int32_t length) {
