@@ -9,10 +9,12 @@
 
 namespace quintara {
 
-// The window in which the documents are read. From the physics document it opens the two demonstration windows.
+// The window in which the documents are read. From the physics document it opens the two demonstration
+// windows.
 class AnalysisForm : public Form {
  public:
-  AnalysisForm(Scene& scene, const MainForm& mainForm, ProjectileForm& projectile, TrajectoryForm& frmTrajectory);
+  AnalysisForm(Scene& scene, const MainForm& mainForm, ProjectileForm& projectile,
+               TrajectoryForm& frmTrajectory);
 
   // Lays the window out for a topic, reads its document and shows it. An open window takes on the new one.
   void Open(HelpTopic topic);
@@ -40,7 +42,8 @@ class AnalysisForm : public Form {
   FormHandle<TrajectoryForm> frmTrajectory;
 };
 
-// Reads a document of the program's folder into a box. Where it can't be read, the box says so and names the file.
+// Reads a document of the program's folder into a box. Where it can't be read, the box says so and names the
+// file.
 void ReadDocumentInto(RichTextBox& box, const std::string& folder, std::string_view name);
 
 }  // namespace quintara

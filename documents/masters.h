@@ -5,8 +5,8 @@
 
 namespace quintara {
 
-// The list of masters: a hall of fame in the file Masters.txt, one entry to a line, in the order in which the names
-// came in. The window shows it, takes the name of a new master, and can erase it.
+// The list of masters: a hall of fame in the file Masters.txt, one entry to a line, in the order in which the
+// names came in. The window shows it, takes the name of a new master, and can erase it.
 class MastersForm : public Form {
  public:
   MastersForm(Scene& scene, const MainForm& mainForm);
@@ -30,7 +30,8 @@ class MastersForm : public Form {
   void SaveList();
 
   MainForm main_;
-  bool fileIsUnread_ = false;  // something lies in the file's place that could not be read, and must not be lost
+  // Something lies in the file's place that could not be read, and must not be lost.
+  bool fileIsUnread_ = false;
 };
 
 }  // namespace quintara

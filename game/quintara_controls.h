@@ -5,15 +5,18 @@
 
 namespace quintara {
 
-// The main form: every control with its start values, front to back within its container; the form's own children are
-// Picture1, Picture5 and Picture2. Places are in twips: left, top, width, height, or the two
-// ends of a line. The game's rules read many of these numbers back; a line that is never shown may well be the
-// mountain.
+// The main form: every control with its start values, front to back within its container; the form's own
+// children are Picture1, Picture5 and Picture2. Places are in twips: left, top, width, height, or the two
+// ends of a line. The game's rules read many of these numbers back; a line that is never shown may well be
+// the mountain.
 class QuintaraControls : public Form {
  protected:
   explicit QuintaraControls(Scene& scene)
       : Form(scene, "Quintara",
-             {.caption = "Quintara", .clientWidth = 15225, .clientHeight = 10695, .backColor = 0x00FFFFFF,
+             {.caption = "Quintara",
+              .clientWidth = 15225,
+              .clientHeight = 10695,
+              .backColor = 0x00FFFFFF,
               .font = {"MS Sans Serif", 9.75, true}}) {}
 
  private:

@@ -4,8 +4,8 @@
 
 namespace quintara {
 
-// How one form reaches another: every use through -> or * is a touch, which loads a form that isn't loaded. A form
-// uses such a handle to itself where it goes on after its own unloading.
+// How one form reaches another: every use through -> or * is a touch, which loads a form that isn't loaded. A
+// form uses such a handle to itself where it goes on after its own unloading.
 template <typename FormClass>
 class FormHandle {
  public:
