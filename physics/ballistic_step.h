@@ -1,5 +1,9 @@
 #pragma once
 
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+
 #include "scene/numbers.h"
 #include "scene/single.h"
 
@@ -44,6 +48,13 @@ inline void StepUpwards(const FlightVariables& v) {
 inline void BallisticStep(const FlightVariables& v, double k) {
   StepAlongGround(v, k);
   StepUpwards(v);
+}
+
+// Whether a flight that is worked out at once goes on after so many steps: it has five steps to each m/s of
+// its velocity. A velocity beyond what any scroll bar gives ends with the 16-bit counter.
+inline bool StepsRemain(std::int16_t steps, Single velocity) {
+  constexpr double most = std::numeric_limits<std::int16_t>::max();
+  return steps < std::min<double>(Single(velocity * 5), most);
 }
 
 }  // namespace quintara

@@ -75,13 +75,6 @@ bool LiesInOneOf(const Spans& spans, double value) {
   return false;
 }
 
-void Lay(Line& line, const Segment& ends) {
-  line.X1 = ends.x1;
-  line.Y1 = ends.y1;
-  line.X2 = ends.x2;
-  line.Y2 = ends.y2;
-}
-
 }  // namespace
 
 void ProjectileForm::StepHorizontalBall() {
@@ -162,8 +155,8 @@ void ProjectileForm::DrawFall() {
   Line12.Y1 = FallArrow() + Line12.Y2;
   Label14.Top = FallArrow() + 870;
   Image3.Top = FallArrow() + 870;
-  Lay(Line19, {Line12.X1, Line12.Y1 + 60, Line12.X1 + 60, Line12.Y1});
-  Lay(Line20, {Line12.X1, Line12.Y1 + 60, Line12.X1 - 60, Line12.Y1});
+  Line19.Lay({Line12.X1, Line12.Y1 + 60, Line12.X1 + 60, Line12.Y1});
+  Line20.Lay({Line12.X1, Line12.Y1 + 60, Line12.X1 - 60, Line12.Y1});
 }
 
 // The band's tick and number go along with the ball and stay where it left the band.
@@ -224,13 +217,13 @@ void ProjectileForm::LayResultant() {
   mArrowRad = Atn((Line11.Y1 - Line10.Y1) / (Line10.X2 - Line10.X1));
   mArrowComplement = 3.1416 / 2 - mArrowRad;
 
-  Lay(Line15, {Line10.X2 + 60, Line10.Y2, Line10.X2, Line10.Y2 - 60});
-  Lay(Line16, {Line10.X2 + 60, Line10.Y2, Line10.X2, Line10.Y2 + 60});
+  Line15.Lay({Line10.X2 + 60, Line10.Y2, Line10.X2, Line10.Y2 - 60});
+  Line16.Lay({Line10.X2 + 60, Line10.Y2, Line10.X2, Line10.Y2 + 60});
 
   const double x = Line11.X1, y = Line11.Y1, a = mArrowRad, b = mArrowComplement;
   const double tipX = x + 60 * Cos(a), tipY = y + 60 * Sin(a);
-  Lay(Line17, {tipX, tipY, x + 60 * Sin(a), y - 60 * Cos(a)});
-  Lay(Line18, {tipX, tipY, x - 60 * Cos(b), y + 60 * Sin(b)});
+  Line17.Lay({tipX, tipY, x + 60 * Sin(a), y - 60 * Cos(a)});
+  Line18.Lay({tipX, tipY, x - 60 * Cos(b), y + 60 * Sin(b)});
 
   Line21.Y2 = Line17.Y1;
   Line22.Y1 = Line17.Y1;

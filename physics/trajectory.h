@@ -40,7 +40,7 @@ class TrajectoryForm : public TrajectoryControls {
   void SetUpChart();
   void StartFlight(double dt);
   void StartEventTimer();
-  bool FlightGoesOn() const { return Single(mTrajV0 * 5) > mStepCount; }
+  bool FlightGoesOn() const { return StepsRemain(mStepCount, mTrajV0); }
   FlightVariables Flight() {
     return {mTrajDrag, mTrajAx, mTrajAy, mTrajVx, mTrajVy, mTrajSpeed, mTrajX, mTrajY, mTrajTime, mTrajDt};
   }

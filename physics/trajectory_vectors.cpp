@@ -9,13 +9,6 @@ namespace {
 
 constexpr double barb = 10;
 
-void Lay(Line& line, const Segment& ends) {
-  line.X1 = ends.x1;
-  line.Y1 = ends.y1;
-  line.X2 = ends.x2;
-  line.Y2 = ends.y2;
-}
-
 }  // namespace
 
 void TrajectoryForm::DrawVectors() {
@@ -45,21 +38,21 @@ void TrajectoryForm::DrawComponents() {
 
 void TrajectoryForm::DrawArrowHeads(const ArrowRule& rule) {
   mResultantComplement = 3.1416 / 2 - mResultantRad;
-  Lay(Line10, {Line5.X2 + barb, Line5.Y2, Line5.X2, Line5.Y2 - barb});
-  Lay(Line11, {Line5.X2 + barb, Line5.Y2, Line5.X2, Line5.Y2 + barb});
+  Line10.Lay({Line5.X2 + barb, Line5.Y2, Line5.X2, Line5.Y2 - barb});
+  Line11.Lay({Line5.X2 + barb, Line5.Y2, Line5.X2, Line5.Y2 + barb});
 
   const double x = Line7.X1;
   const double y = Line7.Y1;
   const double across = barb * Cos(mResultantRad);
   const double down = barb * Sin(mResultantRad);
-  Lay(Line12, {x + across, y + rule.line12Y1 * down, x + rule.line12X2 * down, y - across});
-  Lay(Line13, {x + across, y + rule.line13Y1 * down, x - barb * Cos(mResultantComplement),
-               y + barb * Sin(mResultantComplement)});
+  Line12.Lay({x + across, y + rule.line12Y1 * down, x + rule.line12X2 * down, y - across});
+  Line13.Lay({x + across, y + rule.line13Y1 * down, x - barb * Cos(mResultantComplement),
+              y + barb * Sin(mResultantComplement)});
 
   const double p = Line6.X1;
   const double q = Line6.Y2;
-  Lay(Line14, {p, q, p + barb, q + rule.line6Barb});
-  Lay(Line16, {p - barb, q + rule.line6Barb, p, q});
+  Line14.Lay({p, q, p + barb, q + rule.line6Barb});
+  Line16.Lay({p - barb, q + rule.line6Barb, p, q});
 
   Image5.Left = Line7.X1 + 40;
   Image5.Top = Line7.Y1 - 40;

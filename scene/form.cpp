@@ -18,11 +18,12 @@ Form::ScaleExtent::operator double() const {
 
 Form::ScaleExtent& Form::ScaleExtent::operator=(double units) {
   const Single count = units;
-  if (!(count > 0) || !std::isfinite(count)) return *this;
+  const double inner = axis_ == Axis::Across ? form_.InnerWidth() : form_.InnerHeight();
+  // A form squeezed to nothing has no unit that could be counted.
+  if (!(count > 0) || !std::isfinite(count) || !(inner > 0)) return *this;
   Scale scale = form_.scale();
   scale.mode = Scale::user;
-  (axis_ == Axis::Across ? scale.unitAcross : scale.unitDown) =
-      (axis_ == Axis::Across ? form_.InnerWidth() : form_.InnerHeight()) / count;
+  (axis_ == Axis::Across ? scale.unitAcross : scale.unitDown) = inner / count;
   form_.Rescale(scale);
   return *this;
 }

@@ -67,6 +67,13 @@ void Line::ConvertPlace(const Scale& from, const Scale& to) {
   for (Coordinate* coordinate : {&X1, &Y1, &X2, &Y2}) coordinate->Place(coordinate->Twips(from), to);
 }
 
+void Line::Lay(const Segment& ends) {
+  X1 = ends.x1;
+  Y1 = ends.y1;
+  X2 = ends.x2;
+  Y2 = ends.y2;
+}
+
 Segment Line::Surface() const {
   const Scale& scale = container()->scale();
   return {X1.Twips(scale), Y1.Twips(scale), X2.Twips(scale), Y2.Twips(scale)};

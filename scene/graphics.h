@@ -62,6 +62,8 @@ class Line : public Object {
   const LineLooks& looks() const { return looks_; }
   bool IsVisible() const override { return Visible; }
   void ConvertPlace(const Scale& from, const Scale& to) override;
+  // Writes both ends, in the scale of the container.
+  void Lay(const Segment& ends);
   // The ends in twips on the container's surface.
   Segment Surface() const;
   void Restore() override;

@@ -26,7 +26,7 @@ struct Rectangle {
   double left = 0, top = 0, width = 0, height = 0;
 };
 
-// The ends of a line in its form's table, in twips.
+// The ends of a line; in its form's table, in twips.
 struct Segment {
   double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
 };

@@ -97,16 +97,23 @@ double BeyondRange(std::string_view number) {
   return number.front() == '-' ? -size : size;
 }
 
+// What a number that is none, or lies beyond all bounds, is shown as: 0, or the largest single of its sign.
+double Showable(double number) {
+  constexpr double largest = std::numeric_limits<float>::max();
+  if (std::isnan(number)) return 0;
+  return std::isinf(number) ? std::copysign(largest, number) : number;
+}
+
 // Turns "d.ddddE±xx" into plain decimals without trailing zeros.
 std::string PlainDecimals(double number, int significantDigits) {
-  if (number == 0 || std::isnan(number)) return "0";
+  number = Showable(number);
+  if (number == 0) return "0";
   char buffer[40];
   const char* end = std::to_chars(buffer, buffer + sizeof buffer, std::fabs(number),
                                   std::chars_format::scientific, significantDigits - 1)
                         .ptr;
   const std::string_view scientific(buffer, static_cast<std::size_t>(end - buffer));
   const std::size_t e = scientific.find('e');
-  if (e == std::string_view::npos) return number < 0 ? "-inf" : "inf";
 
   std::string digits(1, scientific[0]);
   if (e > 2) digits += scientific.substr(2, e - 2);
@@ -159,7 +166,7 @@ std::string Format(Single value, Pattern pattern) {
   // A single times 100 is exact in a double, so the half added here meets true halves only.
   const int decimals = pattern == Pattern::Whole ? 0 : 2;
   const double rounded =
-      std::floor(std::fabs(value) * (decimals == 0 ? 1 : 100) + 0.5) / (decimals == 0 ? 1 : 100);
+      std::floor(std::fabs(Showable(value)) * (decimals == 0 ? 1 : 100) + 0.5) / (decimals == 0 ? 1 : 100);
   char buffer[64];
   const auto end = std::to_chars(buffer, buffer + sizeof buffer, rounded, std::chars_format::fixed, decimals);
   const std::string text(buffer, end.ptr);
@@ -182,9 +189,10 @@ std::int32_t CLng(double x) {
 }
 
 std::string ExactText(Single number) {
-  if (number == 0) return "0";
+  const Single shown = Showable(number);
+  if (shown == 0) return "0";
   char buffer[64];
-  const auto end = std::to_chars(buffer, buffer + sizeof buffer, number.Stored(), std::chars_format::fixed);
+  const auto end = std::to_chars(buffer, buffer + sizeof buffer, shown.Stored(), std::chars_format::fixed);
   return std::string(buffer, end.ptr);
 }
 
