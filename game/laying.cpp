@@ -101,7 +101,7 @@ void QuintaraForm::Preview(double dt, PreviewOf previewed) {
   gDt = dt;
   gStepCount = 1;
   Single shown = -1;  // the caption is the same for many steps in a row
-  while (gStepCount < Single(gMuzzleVelocity * 5)) {
+  while (StepsRemain(gStepCount, gMuzzleVelocity)) {
     ++gStepCount;
     BallisticStep(Flight(), Val(Label15.Caption));
     if (gPosY > 0 && Int(gFlightTime) != shown) {

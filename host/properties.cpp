@@ -80,7 +80,9 @@ Assignment PreparePicture(Object& object, const Word& word) {
   if (name.empty()) return [&box] { box.Picture = Picture{}; };
   const Scene& scene = object.form().scene();
   const std::string path = scene.AppPath() + "\\" + name;
-  if (!scene.files().IsBitmap(path)) throw Refusal("there is no such bitmap");
+  const bool leavesFolder = name.find_first_of("/:") != std::string::npos || name.starts_with('\\') ||
+                            name.find("..") != std::string::npos;
+  if (leavesFolder || !scene.files().IsBitmap(path)) throw Refusal("there is no such bitmap");
   return [&box, &scene, path] { scene.LoadPictureInto(box, path); };
 }
 

@@ -77,6 +77,12 @@ TEST_F(LayingTest, TheSettingAloneRunsNoPreview) {
   EXPECT_EQ(form.Label31.Caption, TimeCaption("23"));
 }
 
+TEST_F(LayingTest, AnImpossibleVelocityEndsToo) {
+  form.Label6.Caption = "1e30";
+  form.VScroll1.Value = 300;
+  EXPECT_EQ(form.gStepCount, 32767);
+}
+
 TEST_F(LayingTest, DragIsDrawnByChance) {
   chance.Queue(0.0);
   Click(form.cmdAdvanced);

@@ -154,6 +154,9 @@ TEST_F(FormTest, AChangeOfScaleMovesNothing) {
   form.ScaleHeight = -1;
   form.ScaleMode = 2;
   EXPECT_EQ(form.ScaleHeight, 12000) << "scales that count nothing are not taken";
+  form.Width = 0.0;
+  form.ScaleWidth = 100;
+  EXPECT_EQ(form.Open.Left, 6000);
 }
 
 TEST_F(FormTest, ThousandsOfChangesOfScaleDoNotDrift) {

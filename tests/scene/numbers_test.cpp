@@ -138,6 +138,11 @@ TEST(ExactText, ReadsBackToTheSameSingle) {
   for (const float value : {0.1f, 1.0f / 3, 16777216.0f, 3.4e38f, -7.54e-5f}) {
     EXPECT_EQ(Single(ReadDecimal(ExactText(static_cast<double>(value))).value()).Stored(), value);
   }
+  const double infinity = std::numeric_limits<double>::infinity();
+  EXPECT_EQ(ExactText(std::nan("")), "0");
+  EXPECT_EQ(ExactText(-infinity), "-340282346638528859811704183484516925440") << "the largest single";
+  EXPECT_EQ(ToText(infinity).substr(0, 5), "34028");
+  EXPECT_EQ(Format(std::nan(""), Pattern::TwoDecimals), "0.00");
   EXPECT_FALSE(ReadDecimal("").has_value());
   EXPECT_FALSE(ReadDecimal("12x").has_value());
   EXPECT_FALSE(ReadDecimal("inf").has_value());
