@@ -12,9 +12,11 @@ void QuintaraForm::cmdMagnify_Click() {
       "Then, click the red Fire button.";
   ShowPanels();
   ShowMaximumScore();
-  // The setting of the last target: a record that is no number, or none in range, counts as the nearest
+  // The setting of the last target. A record that is no number, or none in range, counts as the nearest
   // bound.
-  HScroll1.Value = CInt(Val(scene().files().ReadRecord(gAppPath + "extra.txt", 5)));
+  if (const auto record = scene().files().ReadRecord(gAppPath + "extra.txt", 5)) {
+    HScroll1.Value = CInt(Val(*record));
+  }
 
   RaiseTerrain();
   LayOutline();

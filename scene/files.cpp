@@ -53,8 +53,8 @@ bool Files::WriteLines(std::string_view joined, const std::vector<std::string>& 
   return ReplaceWhole(Locate(joined).path, bytes);
 }
 
-std::string Files::ReadRecord(std::string_view joined, std::size_t number) const {
-  return disk_.Read(Locate(joined).path, recordLength * (number - 1), recordLength).value_or("");
+std::optional<std::string> Files::ReadRecord(std::string_view joined, std::size_t number) const {
+  return disk_.Read(Locate(joined).path, recordLength * (number - 1), recordLength);
 }
 
 bool Files::WriteRecord(std::string_view joined, std::size_t number, std::string_view text) const {

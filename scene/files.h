@@ -43,8 +43,9 @@ class Files {
   // Puts the lines in the file's place, each ended by CR LF. False: the old file is as it was.
   bool WriteLines(std::string_view joined, const std::vector<std::string>& lines) const;
 
-  // Record n, from 1, as text of up to 10 characters; the empty text where there is none.
-  std::string ReadRecord(std::string_view joined, std::size_t number) const;
+  // Record n, from 1, as text of up to 10 characters; empty where the file ends before it. Nothing where the
+  // file is missing or unreadable.
+  std::optional<std::string> ReadRecord(std::string_view joined, std::size_t number) const;
   // Fills the text with blanks to 10 characters, or cuts it, and stores it as record n; the other records
   // stay, and missing ones before it become blank. False: the old file is as it was.
   bool WriteRecord(std::string_view joined, std::size_t number, std::string_view text) const;

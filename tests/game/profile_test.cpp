@@ -77,6 +77,14 @@ TEST_F(ProfileTest, AnEditedRecordGivesTheNearestBound) {
   }
 }
 
+TEST_F(ProfileTest, WithoutARecordTheSettingStays) {
+  std::filesystem::remove(folder.path() / "extra.txt");
+  std::filesystem::create_directory(folder.path() / "extra.txt");
+  form.HScroll1.Value = 12;
+  OpenProfile();
+  EXPECT_EQ(form.HScroll1.Value, 12);
+}
+
 TEST_F(ProfileTest, ASecondMagnifyLoadsNothingTwice) {
   OpenProfile();
   const std::size_t objects = form.objects().size();

@@ -76,16 +76,18 @@ TEST_F(FilesTest, StoresARecordAmongOthers) {
 }
 
 TEST_F(FilesTest, ReadsWhateverLiesInTheRecordFilesPlace) {
+  EXPECT_FALSE(files.ReadRecord(In("extra.txt"), 5).has_value());
+  Put("extra.txt", "short");
   EXPECT_EQ(files.ReadRecord(In("extra.txt"), 5), "");
   Put("extra.txt", std::string(43, '1'));
   EXPECT_EQ(files.ReadRecord(In("extra.txt"), 5), "111");
   fs::resize_file(folder.path() / "extra.txt", std::uintmax_t{1} << 32);
-  EXPECT_EQ(files.ReadRecord(In("extra.txt"), 5).size(), 10u);
+  EXPECT_EQ(files.ReadRecord(In("extra.txt"), 5)->size(), 10u);
   EXPECT_FALSE(files.WriteRecord(In("extra.txt"), 5, "15")) << "a file of 4 GB is none of ours";
   EXPECT_EQ(fs::file_size(folder.path() / "extra.txt"), std::uintmax_t{1} << 32);
   fs::remove(folder.path() / "extra.txt");
   fs::create_directory(folder.path() / "extra.txt");
-  EXPECT_EQ(files.ReadRecord(In("extra.txt"), 5), "");
+  EXPECT_FALSE(files.ReadRecord(In("extra.txt"), 5).has_value());
   EXPECT_FALSE(files.WriteRecord(In("extra.txt"), 5, "15"));
 }
 
