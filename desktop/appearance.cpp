@@ -1,10 +1,10 @@
 #include "desktop/appearance.h"
 
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QStyleFactory>
 
 #include <algorithm>
 
+#include "desktop/classic_style.h"
 #include "desktop/units.h"
 
 namespace quintara::desktop {
@@ -48,11 +48,11 @@ void SubstituteFonts() {
 
 }  // namespace
 
-void SetUpAppearance(QApplication& application) {
+void SetUpAppearance() {
   SubstituteFonts();
-  application.setStyle(QStyleFactory::create("windows"));
-  application.setPalette(ClassicPalette());
-  application.setFont(ToQFont(Font{}));
+  QApplication::setStyle(new ClassicStyle);
+  QApplication::setPalette(ClassicPalette());
+  QApplication::setFont(ToQFont(Font{}));
 }
 
 QColor ToQColor(Colour colour) {
@@ -61,9 +61,9 @@ QColor ToQColor(Colour colour) {
                          static_cast<int>(direct >> 16 & 0xFF));
 }
 
-QFont ToQFont(const Font& font) {
+QFont ToQFont(const Font& font, const Zoom& zoom) {
   QFont result(ToQString(font.name));
-  result.setPixelSize(ToPixelSize(font.points));
+  result.setPixelSize(zoom(ToPixelSize(font.points)));
   // Letters keep their true widths; rounded ones would break captions in other places.
   result.setHintingPreference(QFont::PreferVerticalHinting);
   result.setWeight(WeightOf(font.name, font.bold));

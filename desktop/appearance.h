@@ -6,18 +6,17 @@
 
 #include <string_view>
 
+#include "desktop/zoom.h"
 #include "scene/colour.h"
 #include "scene/looks.h"
-
-class QApplication;
 
 namespace quintara::desktop {
 
 // Gives the application the classic grey look, whatever the look of the system it runs on.
-void SetUpAppearance(QApplication& application);
+void SetUpAppearance();
 
 QColor ToQColor(Colour colour);
-QFont ToQFont(const Font& font);
+QFont ToQFont(const Font& font, const Zoom& zoom = Zoom());
 // The weight of a font's letters; that of some fonts lies in their name.
 QFont::Weight WeightOf(std::string_view fontName, bool bold);
 // The size of letters in pixels; forms were laid out for 96 dots to the inch.

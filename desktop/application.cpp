@@ -24,7 +24,7 @@ Application::Application(int& argumentCount, char** arguments) : QApplication(ar
   setApplicationName("Quintara");
   setDesktopFileName("quintara");
   setQuitOnLastWindowClosed(false);
-  SetUpAppearance(*this);
+  SetUpAppearance();
   setWindowIcon(ProgramIcon());
 }
 

@@ -1,9 +1,11 @@
 #include "desktop/bar_widgets.h"
 
 #include <QtCore/QSignalBlocker>
+#include <QtGui/QKeyEvent>
 
 #include <cstdlib>
 
+#include "desktop/keyboard.h"
 #include "desktop/session.h"
 #include "scene/input.h"
 
@@ -53,6 +55,10 @@ void ScrollBarWidget::ShowLooks() {
   ShowValue(*this, bar_);
 }
 
+void ScrollBarWidget::keyPressEvent(QKeyEvent* event) {
+  if (!MoveByKey(*this, *event)) QScrollBar::keyPressEvent(event);
+}
+
 void ScrollBarWidget::HandIn(int position) {
   session_.Run([this, position] { UserDragsTo(bar_, static_cast<std::int16_t>(ValueAt(bar_, position))); });
   ShowLooks();
@@ -68,6 +74,10 @@ SliderWidget::SliderWidget(Slider& slider, QWidget& parent, Session& session)
 
 void SliderWidget::ShowLooks() {
   ShowValue(*this, slider_);
+}
+
+void SliderWidget::keyPressEvent(QKeyEvent* event) {
+  if (!MoveByKey(*this, *event)) QSlider::keyPressEvent(event);
 }
 
 void SliderWidget::HandIn(int position) {

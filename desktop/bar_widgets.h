@@ -15,6 +15,7 @@ class ScrollBarWidget final : public QScrollBar, public Control {
 
  protected:
   void ShowLooks() override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void HandIn(int position);
@@ -29,6 +30,7 @@ class SliderWidget final : public QSlider, public Control {
 
  protected:
   void ShowLooks() override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void HandIn(int position);

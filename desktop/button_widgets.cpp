@@ -1,5 +1,6 @@
 #include "desktop/button_widgets.h"
 
+#include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyle>
@@ -9,6 +10,7 @@
 #include <algorithm>
 
 #include "desktop/appearance.h"
+#include "desktop/keyboard.h"
 #include "desktop/pictures.h"
 #include "desktop/session.h"
 #include "desktop/units.h"
@@ -34,17 +36,15 @@ ButtonWidget::ButtonWidget(Button& button, QWidget& parent, Session& session)
   setPalette(PaletteWith(QPalette::Button, button.looks().backColor, QPalette::ButtonText,
                          button.looks().foreColor));
   setMouseTracking(true);
-  if (!button.looks().picture.empty()) picture_ = session.pictures().Embedded(button.looks().picture);
   connect(this, &QPushButton::clicked, this, [this] { session_.Run([this] { UserClicks(button_); }); });
 }
 
 void ButtonWidget::ShowLooks() {
-  constexpr int edges = 6;
+  const int edges = zoom()(6);
   const QString caption = ToQString(button_.Caption.Get());
-  const QFont font = ToQFont(button_.looks().font.value_or(button_.form().looks().font));
+  const QFont font = ToQFont(button_.looks().font.value_or(button_.form().looks().font), zoom());
   setFont(FittingFont(font, caption, width() - edges));
   setText(caption);
-  setAccessibleName(caption.isEmpty() ? ToQString(button_.name()) : caption);
 }
 
 void ButtonWidget::paintEvent(QPaintEvent*) {
@@ -54,15 +54,17 @@ void ButtonWidget::paintEvent(QPaintEvent*) {
   painter.drawControl(QStyle::CE_PushButtonBevel, option);
   QRect face = rect();
   if (isDown()) face.translate(1, 1);
-  if (picture_.isNull()) {
+  const QPixmap picture = session_.pictures().Shown(button_.looks().picture, zoom(), devicePixelRatioF());
+  if (picture.isNull()) {
     painter.drawItemText(face, Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextDontClip, palette(),
                          isEnabled(), text(), QPalette::ButtonText);
   } else {
     const QPixmap shown =
-        isEnabled() ? picture_ : style()->generatedIconPixmap(QIcon::Disabled, picture_, &option);
+        isEnabled() ? picture : style()->generatedIconPixmap(QIcon::Disabled, picture, &option);
     // Of a picture that is too wide the left part shows, where its sign is.
     constexpr int edge = 3;
-    const QPoint inset(std::max((width() - shown.width()) / 2, edge), (height() - shown.height()) / 2);
+    const QSize size = picture.deviceIndependentSize().toSize();
+    const QPoint inset(std::max((width() - size.width()) / 2, edge), (height() - size.height()) / 2);
     painter.drawPixmap(face.topLeft() + inset, shown);
   }
   if (hasFocus()) {
@@ -81,6 +83,11 @@ void ButtonWidget::mouseMoveEvent(QMouseEvent* event) {
     session_.Run([this] { UserMovesOnto(button_); });
 }
 
+void ButtonWidget::keyPressEvent(QKeyEvent* event) {
+  if (PressesButton(*event)) return click();
+  QPushButton::keyPressEvent(event);
+}
+
 PanelWidget::PanelWidget(SSPanel& panel, QWidget& parent, Session& session)
     : QLabel(&parent), Control(panel, *this, session), panel_(panel) {
   setPalette(
@@ -90,10 +97,10 @@ PanelWidget::PanelWidget(SSPanel& panel, QWidget& parent, Session& session)
   setLineWidth(1);
   setAlignment(Qt::AlignCenter);
   setTextFormat(Qt::PlainText);
-  setFont(ToQFont(panel.looks().font.value_or(panel.form().looks().font)));
 }
 
 void PanelWidget::ShowLooks() {
+  setFont(ToQFont(panel_.looks().font.value_or(panel_.form().looks().font), zoom()));
   setText(ToQString(panel_.Caption.Get()));
 }
 

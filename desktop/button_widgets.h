@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QtGui/QPixmap>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 
@@ -18,10 +17,10 @@ class ButtonWidget final : public QPushButton, public Control {
   void ShowLooks() override;
   void paintEvent(QPaintEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   Button& button_;
-  QPixmap picture_;
 };
 
 // A framed caption.

@@ -42,7 +42,7 @@ class Breaker {
     if (!Fits(EndOfWord(text_, EndOfBlanks(text_, start_)))) start_ = EndOfBlanks(text_, start_);
     qsizetype end = EndOfNext(start_);
     while (end < text_.size() && Fits(EndOfWord(text_, EndOfBlanks(text_, end)))) end = EndOfNext(end);
-    const QString line = text_.mid(start_, end - start_);
+    QString line = text_.mid(start_, end - start_);
     while (end < text_.size() && text_[end] == ' ' && Fits(end + 1)) ++end;
     start_ = end;
     return line;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/zoom.h"
 #include "scene/property.h"
 
 class QWidget;
@@ -11,6 +12,7 @@ class Object;
 
 namespace quintara::desktop {
 
+struct Assistance;
 class Session;
 
 // A widget that stands for an object with a surface of its own. Widgets of all kinds take this over.
@@ -19,8 +21,8 @@ class Control {
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
 
-  // Takes over what has changed in the Scene since the last call.
-  virtual void Follow();
+  // Takes over what has changed in the Scene since the last call, and how large it is to be shown.
+  virtual void Follow(const Zoom& zoom);
   QWidget& widget() const { return widget_; }
 
  protected:
@@ -29,13 +31,21 @@ class Control {
 
   // What its own kind of widget shows, beyond place, visibility and whether it is enabled.
   virtual void ShowLooks() = 0;
+  const Zoom& zoom() const { return zoom_; }
 
   Session& session_;
 
  private:
+  void FollowName();
+
   Box& box_;
   QWidget& widget_;
+  Zoom zoom_;
   ChangeCount seen_ = 0;
+  const Assistance* assistance_ = nullptr;
+  const Object* readOut_ = nullptr;
+  ChangeCount readOutSeen_ = 0;
+  bool named_ = false;
   bool fresh_ = true;
 };
 

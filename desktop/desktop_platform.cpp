@@ -10,6 +10,7 @@
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMessageBox>
 
+#include "desktop/appearance.h"
 #include "desktop/form_window.h"
 #include "desktop/session.h"
 #include "desktop/units.h"
@@ -21,6 +22,10 @@ namespace {
 
 QSize ScreenSize() {
   return QGuiApplication::primaryScreen()->size();
+}
+
+double ZoomOf(const Session* session) {
+  return session != nullptr ? session->zoom().factor() : 1;
 }
 
 // While this lives, a handler waits for the user.
@@ -41,11 +46,16 @@ class Waiting {
 
 }  // namespace
 
+DesktopPlatform::DesktopPlatform(const ProgramFolders& folders)
+    : programFolder_(folders.data), disk_(folders.data.toStdU16String(), folders.own.toStdU16String()) {
+  disk_.MakeOwnList();
+}
+
 double DesktopPlatform::ScreenWidth() {
-  return ToTwips(ScreenSize().width());
+  return ToTwips(ScreenSize().width()) / ZoomOf(session_);
 }
 double DesktopPlatform::ScreenHeight() {
-  return ToTwips(ScreenSize().height());
+  return ToTwips(ScreenSize().height()) / ZoomOf(session_);
 }
 
 std::uint64_t DesktopPlatform::Seed() {
@@ -84,6 +94,7 @@ Menu* DesktopPlatform::RunPopupMenu(Form& form, Menu& menu, double x, double y) 
   FormWindow* window = session_ != nullptr ? session_->WindowOf(form) : nullptr;
   if (window == nullptr) return nullptr;
   QMenu popup(window);
+  popup.setFont(ToQFont(Font{}, window->zoom()));
   QHash<QAction*, Menu*> items;
   for (Menu* item : menu.items()) {
     if (!item->IsVisible()) continue;
@@ -92,7 +103,7 @@ Menu* DesktopPlatform::RunPopupMenu(Form& form, Menu& menu, double x, double y) 
     action->setEnabled(item->IsEnabled());
     items.insert(action, item);
   }
-  return items.value(popup.exec(window->mapToGlobal(QPoint(ToPixels(x), ToPixels(y)))));
+  return items.value(popup.exec(window->mapToGlobal(window->zoom()(QPoint(ToPixels(x), ToPixels(y))))));
 }
 
 void DesktopPlatform::PutOnClipboard(const std::string& text) {

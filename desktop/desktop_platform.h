@@ -5,8 +5,9 @@
 #include <cstdint>
 #include <string>
 
+#include "desktop/overlay_file_system.h"
+#include "desktop/program_folders.h"
 #include "desktop/sound_player.h"
-#include "scene/file_system.h"
 #include "scene/platform.h"
 
 namespace quintara::desktop {
@@ -16,7 +17,9 @@ class Session;
 // What the Scene asks of the world, done by Qt.
 class DesktopPlatform final : public Platform {
  public:
-  explicit DesktopPlatform(const QString& programFolder) : programFolder_(programFolder) {}
+  explicit DesktopPlatform(const ProgramFolders& folders);
+  explicit DesktopPlatform(const QString& programFolder)
+      : DesktopPlatform(ProgramFolders{programFolder, programFolder}) {}
 
   // Where forms are shown from now on. There is none yet while the program is built, nor any more at its end.
   void Attach(Session* session) { session_ = session; }
@@ -40,7 +43,7 @@ class DesktopPlatform final : public Platform {
 
  private:
   QString programFolder_;
-  DiskFileSystem disk_;
+  OverlayFileSystem disk_;
   SoundPlayer sounds_;
   Session* session_ = nullptr;
 };

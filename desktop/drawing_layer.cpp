@@ -28,11 +28,12 @@ void PaintDot(QPainter& painter, const Dot& dot, const QRect& place) {
 
 }  // namespace
 
-QRect DrawingLayer::Follow(const Container& container, const QSize& size, qreal pixelRatio) {
+QRect DrawingLayer::Follow(const Container& container, const QSize& size, const Zoom& zoom,
+                           qreal pixelRatio) {
   QRect changed;
   const QSize pixels = size * pixelRatio;
   if (wipes_ != container.wipes() || (!image_.isNull() && image_.size() != pixels)) {
-    changed = marked_;
+    changed = zoom.Around(marked_);
     wipes_ = container.wipes();
     image_ = {};
     marked_ = {};
@@ -49,6 +50,7 @@ QRect DrawingLayer::Follow(const Container& container, const QSize& size, qreal 
   QPainter painter(&image_);
   painter.setPen(Qt::NoPen);
   painter.setRenderHint(QPainter::Antialiasing);
+  painter.scale(zoom.factor(), zoom.factor());
   QRect added;
   for (; drawn_ < dots.size(); ++drawn_) {
     const QRect place = PlaceOf(dots[drawn_]);
@@ -56,7 +58,7 @@ QRect DrawingLayer::Follow(const Container& container, const QSize& size, qreal 
     added |= place;
   }
   marked_ |= added;
-  return changed | added;
+  return changed | zoom.Around(added);
 }
 
 void DrawingLayer::Paint(QPainter& painter) const {

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 
+#include "desktop/zoom.h"
 #include "scene/property.h"
 
 class QPainter;
@@ -19,8 +20,9 @@ namespace quintara::desktop {
 // The marks on a surface, kept as an image: thousands of them cost no more to repaint than one.
 class DrawingLayer {
  public:
-  // Takes over what was marked or wiped since the last call; returns the part that looks different now.
-  QRect Follow(const Container& container, const QSize& size, qreal pixelRatio);
+  // Takes over what was marked or wiped since the last call; returns the part that looks different now. The
+  // size is that of the widget.
+  QRect Follow(const Container& container, const QSize& size, const Zoom& zoom, qreal pixelRatio);
   void Paint(QPainter& painter) const;
 
  private:

@@ -2,16 +2,20 @@
 
 #include <QtGui/QCloseEvent>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QKeyEvent>
 #include <QtGui/QMoveEvent>
 #include <QtGui/QScreen>
 
 #include <algorithm>
 #include <utility>
 
+#include "desktop/assistance.h"
+#include "desktop/keyboard.h"
 #include "desktop/session.h"
 #include "desktop/units.h"
 #include "scene/form.h"
 #include "scene/input.h"
+#include "scene/scene.h"
 
 namespace quintara::desktop {
 namespace {
@@ -19,6 +23,10 @@ namespace {
 constexpr Qt::WindowFlags windowKind = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                        Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                                        Qt::WindowCloseButtonHint;
+
+// What the frame of a window adds to its size, on most systems somewhat less.
+constexpr int frameSides = 8;
+constexpr int frameTopAndBottom = 40;
 
 // The nearest place at which the user can take hold of the window's title bar.
 QPoint WithinReach(const QPoint& place, int width) {
@@ -30,33 +38,90 @@ QPoint WithinReach(const QPoint& place, int width) {
           between(screens.top(), place.y(), screens.bottom() - titleBar)};
 }
 
+// Where the whole window can be seen.
+QPoint Within(const QRect& screen, const QPoint& place, const QSize& size) {
+  const QPoint last = screen.bottomRight() - QPoint(size.width(), size.height());
+  return {std::max(screen.left(), std::min(place.x(), last.x())),
+          std::max(screen.top(), std::min(place.y(), last.y()))};
+}
+
+// The wanted zoom, or the largest at which the window fits on the screen.
+Zoom FittingZoom(const Zoom& wanted, const QSize& inner, const QRect& screen) {
+  const QSize room = screen.size() - QSize(frameSides, frameTopAndBottom);
+  const double across = static_cast<double>(room.width()) / std::max(inner.width(), 1);
+  const double down = static_cast<double>(room.height()) / std::max(inner.height(), 1);
+  return Zoom(std::min({wanted.factor(), across, down}));
+}
+
 }  // namespace
 
 FormWindow::FormWindow(Form& form, Session& session)
-    : QWidget(nullptr, windowKind), form_(form), session_(session), surface_(form, *this, session) {
+    : QWidget(nullptr, windowKind),
+      form_(form),
+      session_(session),
+      desk_(session.zoom()),
+      surface_(form, *this, session),
+      focusMark_(*this) {
+  LayTabOrder();
   // No control has the focus until the user or a handler gives it to one.
   setFocus();
+  connect(screen(), &QScreen::availableGeometryChanged, this, [this] {
+    fresh_ = true;
+    Follow();
+  });
+}
+
+void FormWindow::LayTabOrder() {
+  // Only what can have the focus takes part, and the order begins at the window.
+  setFocusPolicy(Qt::ClickFocus);
+  QWidget* last = this;
+  for (const Object* object : InTabOrder(form_)) {
+    QWidget* widget = WidgetOf(*object);
+    if (widget == nullptr || (widget->focusPolicy() & Qt::TabFocus) == 0) continue;
+    setTabOrder(last, widget);
+    last = widget;
+  }
+  setFocusPolicy(Qt::NoFocus);
 }
 
 void FormWindow::Follow() {
+  if (desk_ != session_.zoom()) FollowDesk();
   if (std::exchange(fresh_, false) || seen_ != form_.changes()) {
     seen_ = form_.changes();
     FollowFrame();
   }
-  surface_.FollowSurface();
+  surface_.FollowSurface(zoom_);
   if (focusSeen_ != form_.focusMoves()) FollowFocus();
+  focusMark_.Follow();
+}
+
+// The desk has grown or shrunk below the window, which keeps its place on the screen.
+void FormWindow::FollowDesk() {
+  desk_ = session_.zoom();
+  form_.Left = ToTwips(placed_.x()) / desk_.factor();
+  form_.Top = ToTwips(placed_.y()) / desk_.factor();
+  wanted_ = WantedPlace();
+  fresh_ = true;
 }
 
 void FormWindow::FollowFrame() {
   setWindowTitle(ToQString(form_.Caption.Get()));
   const QSize inner(ToPixels(form_.InnerWidth()), ToPixels(form_.InnerHeight()));
-  setFixedSize(inner);
-  surface_.resize(inner);
-  const QPoint wanted(ToPixels(form_.Left.Get()), ToPixels(form_.Top.Get()));
-  if (wanted == wanted_ && isVisible()) return;
+  const QRect screen = this->screen()->availableGeometry();
+  const bool zoomed = std::exchange(zoom_, FittingZoom(desk_, inner, screen)) != zoom_;
+  const QSize shown = zoom_(QRect(QPoint(), inner)).size();
+  setFixedSize(shown);
+  surface_.resize(shown);
+  const QPoint wanted = WantedPlace();
+  if (wanted == wanted_ && isVisible() && !zoomed) return;
   wanted_ = wanted;
-  placed_ = WithinReach(wanted, inner.width());
+  placed_ = WithinReach(wanted, shown.width());
+  if (zoom_ != desk_) placed_ = Within(screen, placed_, shown + QSize(frameSides, frameTopAndBottom));
   move(placed_);
+}
+
+QPoint FormWindow::WantedPlace() const {
+  return {ToPixels(form_.Left.Get() * desk_.factor()), ToPixels(form_.Top.Get() * desk_.factor())};
 }
 
 void FormWindow::FollowFocus() {
@@ -90,10 +155,23 @@ void FormWindow::moveEvent(QMoveEvent* event) {
   QWidget::moveEvent(event);
   if (!isVisible() || isMinimized() || pos() == placed_) return;
   // The user moved the window. Other forms are placed beside this one, so the Scene has to know.
-  const QPoint old = placed_;
-  placed_ = wanted_ = pos();
-  if (placed_.x() != old.x()) form_.Left = ToTwips(placed_.x());
-  if (placed_.y() != old.y()) form_.Top = ToTwips(placed_.y());
+  const QPoint old = std::exchange(placed_, pos());
+  if (placed_.x() != old.x()) form_.Left = ToTwips(placed_.x()) / desk_.factor();
+  if (placed_.y() != old.y()) form_.Top = ToTwips(placed_.y()) / desk_.factor();
+  wanted_ = WantedPlace();
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  // What comes here is of no use to the control that has the focus.
+  if (const auto zoom = ZoomByKey(session_.zoom(), *event)) return session_.SetZoom(*zoom);
+  if (event->key() == Qt::Key_Escape) {
+    const bool isMain = &form_ == session_.scene().forms().front();
+    if (!isMain) close();
+  } else if (Object* object = ObjectForKey(form_, *event)) {
+    if (!event->isAutoRepeat()) session_.Run([object] { UserClicks(*object); });
+  } else {
+    QWidget::keyPressEvent(event);
+  }
 }
 
 }  // namespace quintara::desktop

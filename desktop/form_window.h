@@ -3,7 +3,9 @@
 #include <QtCore/QPoint>
 #include <QtWidgets/QWidget>
 
+#include "desktop/focus_mark.h"
 #include "desktop/surface.h"
+#include "desktop/zoom.h"
 
 namespace quintara {
 class Form;
@@ -24,18 +26,27 @@ class FormWindow final : public QWidget {
   // The widget of an object that has a surface of its own, or null.
   QWidget* WidgetOf(const Object& object) const;
   Surface& surface() { return surface_; }
+  // How large it is shown: as all windows are, or smaller where the screen has no room for that.
+  const Zoom& zoom() const { return zoom_; }
 
  protected:
   void closeEvent(QCloseEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void LayTabOrder();
+  void FollowDesk();
   void FollowFrame();
+  QPoint WantedPlace() const;
   void FollowFocus();
 
   Form& form_;
   Session& session_;
+  Zoom desk_;  // how large all windows are to be
+  Zoom zoom_;
   Surface surface_;
+  FocusMark focusMark_;
   QPoint wanted_;  // the frame's place as the Scene told it last, or as the user moved it since
   QPoint placed_;  // where the frame was put, which keeps it within reach on the screen
   ChangeCount seen_ = 0;

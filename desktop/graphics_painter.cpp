@@ -149,7 +149,9 @@ void Paint(QPainter& painter, const Shape& shape) {
 }
 
 void Paint(QPainter& painter, const Image& image, Pictures& pictures) {
-  const QRect place = AreaOf(image, pictures);
+  // In the pixels of the window, so that the picture is scaled once and stays sharp.
+  const QRect place = painter.worldTransform().mapRect(QRectF(AreaOf(image, pictures))).toRect();
+  painter.resetTransform();
   const qreal ratio = painter.device()->devicePixelRatioF();
   if (place.isEmpty()) return;
   painter.drawPixmap(place, pictures.Scaled(image.looks().picture, place.size() * ratio));

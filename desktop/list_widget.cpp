@@ -39,9 +39,8 @@ class ListWidget::Items final : public QAbstractListModel {
 };
 
 ListWidget::ListWidget(ListBox& box, QWidget& parent, Session& session)
-    : QListView(&parent), Control(box, *this, session), items_(new Items(box, this)) {
+    : QListView(&parent), Control(box, *this, session), box_(box), items_(new Items(box, this)) {
   setPalette(PaletteWith(QPalette::Base, box.looks().backColor, QPalette::Text, box.looks().foreColor));
-  setFont(ToQFont(box.looks().font.value_or(box.form().looks().font)));
   setUniformItemSizes(true);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setTextElideMode(Qt::ElideNone);
@@ -50,6 +49,7 @@ ListWidget::ListWidget(ListBox& box, QWidget& parent, Session& session)
 }
 
 void ListWidget::ShowLooks() {
+  setFont(ToQFont(box_.looks().font.value_or(box_.form().looks().font), zoom()));
   const int scrolled = verticalScrollBar()->value();
   items_->Renew();
   verticalScrollBar()->setValue(scrolled);

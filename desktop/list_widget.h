@@ -18,6 +18,7 @@ class ListWidget final : public QListView, public Control {
  private:
   class Items;
 
+  ListBox& box_;
   Items* items_;
 };
 

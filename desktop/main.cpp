@@ -1,8 +1,12 @@
 #include <QtCore/QDir>
 
+#include <string_view>
+
 #include "desktop/application.h"
 #include "desktop/desktop_platform.h"
+#include "desktop/program_folders.h"
 #include "desktop/session.h"
+#include "desktop/tour_main.h"
 #include "program/program.h"
 
 namespace {
@@ -21,10 +25,12 @@ void TellIfMissing(const QString& folder, quintara::Platform& platform) {
 
 int main(int argumentCount, char** arguments) {
   using namespace quintara;
+  if (argumentCount > 1 && std::string_view(arguments[1]) == "--tour")
+    return desktop::RunTour(argumentCount, arguments);
   desktop::Application application(argumentCount, arguments);
-  const QString dataFolder = QCoreApplication::applicationDirPath() + "/data";
-  desktop::DesktopPlatform platform(dataFolder);
-  TellIfMissing(dataFolder, platform);
+  const desktop::ProgramFolders folders = desktop::FindFolders();
+  desktop::DesktopPlatform platform(folders);
+  TellIfMissing(folders.data, platform);
 
   Program program(platform);
   int result = 0;

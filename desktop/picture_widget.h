@@ -11,9 +11,9 @@ class PictureWidget final : public Surface, public Control {
   PictureWidget(PictureBox& box, QWidget& parent, Session& session)
       : Surface(box, parent, session), Control(box, *this, session) {}
 
-  void Follow() override {
-    Control::Follow();
-    FollowSurface();
+  void Follow(const Zoom& shown) override {
+    Control::Follow(shown);
+    FollowSurface(shown);
   }
 
  protected:

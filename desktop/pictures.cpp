@@ -7,6 +7,12 @@
 
 namespace quintara::desktop {
 
+Pictures::Pictures() {
+  // Room for every scaled picture of a window that fills a large screen.
+  constexpr int kilobytes = 128 * 1024;
+  QPixmapCache::setCacheLimit(kilobytes);
+}
+
 const QPixmap& Pictures::Embedded(std::string_view name) {
   const QString key = ToQString(name);
   auto found = decoded_.find(key);
@@ -28,6 +34,12 @@ QPixmap Pictures::Scaled(std::string_view name, const QSize& size) {
     QPixmapCache::insert(key, scaled);
   }
   return scaled;
+}
+
+QPixmap Pictures::Shown(std::string_view name, const Zoom& zoom, qreal pixelRatio) {
+  QPixmap shown = Scaled(name, Embedded(name).size() * (zoom.factor() * pixelRatio));
+  shown.setDevicePixelRatio(pixelRatio);
+  return shown;
 }
 
 }  // namespace quintara::desktop

@@ -7,15 +7,21 @@
 
 #include <string_view>
 
+#include "desktop/zoom.h"
+
 namespace quintara::desktop {
 
 // The pictures inside the executable, decoded when they are first drawn. One that is missing is empty and
 // draws nothing.
 class Pictures {
  public:
+  Pictures();
+
   const QPixmap& Embedded(std::string_view name);
   // The picture squeezed or spread to a size in pixels of the screen.
   QPixmap Scaled(std::string_view name, const QSize& size);
+  // The picture as large as it is shown on a screen with so many pixels to each of a window's.
+  QPixmap Shown(std::string_view name, const Zoom& zoom, qreal pixelRatio);
 
  private:
   QHash<QString, QPixmap> decoded_;

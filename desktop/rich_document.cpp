@@ -13,11 +13,11 @@
 namespace quintara::desktop {
 namespace {
 
-QTextCharFormat FormatOf(const RichTextLook& look, const RichText& text) {
+QTextCharFormat FormatOf(const RichTextLook& look, const RichText& text, const Zoom& zoom) {
   QTextCharFormat format;
   const std::string& font = text.fonts[look.font];
   format.setFontFamilies({font.empty() ? ToQString(Font{}.name) : ToQString(font)});
-  format.setProperty(QTextFormat::FontPixelSize, ToPixelSize(look.halfPoints / 2.0));
+  format.setProperty(QTextFormat::FontPixelSize, zoom(ToPixelSize(look.halfPoints / 2.0)));
   format.setFontWeight(WeightOf(font, look.bold));
   format.setFontItalic(look.italic);
   format.setFontUnderline(look.underline);
@@ -48,23 +48,25 @@ QTextOption::TabType TabTypeOf(RichTextTabKind kind) {
   return QTextOption::LeftTab;
 }
 
-QTextBlockFormat FormatOf(const RichTextFormat& paragraph) {
+QTextBlockFormat FormatOf(const RichTextFormat& paragraph, const Zoom& zoom) {
+  const auto shown = [&zoom](double twips) { return zoom(ToPixels(twips)); };
   QTextBlockFormat format;
   format.setAlignment(AlignmentOf(paragraph.alignment));
-  format.setLeftMargin(ToPixels(paragraph.leftIndent));
-  format.setRightMargin(ToPixels(paragraph.rightIndent));
-  format.setTextIndent(paragraph.bullet ? 0 : ToPixels(paragraph.firstLineIndent));
-  format.setTopMargin(ToPixels(paragraph.spaceBefore));
-  format.setBottomMargin(ToPixels(paragraph.spaceAfter));
+  format.setLeftMargin(shown(paragraph.leftIndent));
+  format.setRightMargin(shown(paragraph.rightIndent));
+  format.setTextIndent(paragraph.bullet ? 0 : shown(paragraph.firstLineIndent));
+  format.setTopMargin(shown(paragraph.spaceBefore));
+  format.setBottomMargin(shown(paragraph.spaceAfter));
   QList<QTextOption::Tab> tabs;
   for (const RichTextTab& tab : paragraph.tabs)
-    tabs.append(QTextOption::Tab(ToPixels(tab.position - paragraph.leftIndent), TabTypeOf(tab.kind), '.'));
+    tabs.append(QTextOption::Tab(shown(tab.position - paragraph.leftIndent), TabTypeOf(tab.kind), '.'));
   format.setTabPositions(tabs);
   return format;
 }
 
-void InsertParagraph(QTextCursor& cursor, const RichTextParagraph& paragraph, const RichText& text) {
-  cursor.setBlockFormat(FormatOf(paragraph.format));
+void InsertParagraph(QTextCursor& cursor, const RichTextParagraph& paragraph, const RichText& text,
+                     const Zoom& zoom) {
+  cursor.setBlockFormat(FormatOf(paragraph.format, zoom));
   if (paragraph.format.bullet) {
     // The bullet stands out to the left of the indent that the paragraph has anyhow.
     QTextListFormat bullets;
@@ -74,24 +76,24 @@ void InsertParagraph(QTextCursor& cursor, const RichTextParagraph& paragraph, co
   }
   for (const RichTextRun& run : paragraph.runs) {
     QString letters = ToQString(run.text);
-    cursor.insertText(letters.replace('\n', QChar(QChar::LineSeparator)), FormatOf(run.look, text));
+    cursor.insertText(letters.replace('\n', QChar(QChar::LineSeparator)), FormatOf(run.look, text, zoom));
   }
 }
 
 }  // namespace
 
-void FillDocument(QTextDocument& document, const RichText& text) {
+void FillDocument(QTextDocument& document, const RichText& text, const Zoom& zoom) {
   document.setUndoRedoEnabled(false);
   document.clear();
   QTextOption option = document.defaultTextOption();
-  option.setTabStopDistance(ToPixels(text.defaultTabs));
+  option.setTabStopDistance(zoom(ToPixels(text.defaultTabs)));
   document.setDefaultTextOption(option);
 
   QTextCursor cursor(&document);
   cursor.beginEditBlock();
   for (const RichTextParagraph& paragraph : text.paragraphs) {
     if (&paragraph != &text.paragraphs.front()) cursor.insertBlock(QTextBlockFormat(), QTextCharFormat());
-    InsertParagraph(cursor, paragraph, text);
+    InsertParagraph(cursor, paragraph, text, zoom);
   }
   cursor.endEditBlock();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/zoom.h"
 #include "scene/rich_text.h"
 
 class QTextDocument;
@@ -7,6 +8,6 @@ class QTextDocument;
 namespace quintara::desktop {
 
 // Fills a document of Qt's with the paragraphs of one of ours. Both have the same plain text.
-void FillDocument(QTextDocument& document, const RichText& text);
+void FillDocument(QTextDocument& document, const RichText& text, const Zoom& zoom);
 
 }  // namespace quintara::desktop

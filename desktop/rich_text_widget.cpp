@@ -1,12 +1,15 @@
 #include "desktop/rich_text_widget.h"
 
 #include <QtCore/QSignalBlocker>
+#include <QtGui/QKeyEvent>
 #include <QtGui/QTextCursor>
 #include <QtGui/QTextDocument>
+#include <QtWidgets/QScrollBar>
 
 #include <algorithm>
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "desktop/appearance.h"
 #include "desktop/rich_document.h"
@@ -19,21 +22,38 @@ RichTextWidget::RichTextWidget(RichTextBox& box, QWidget& parent, Session& sessi
     : QTextEdit(&parent), Control(box, *this, session), box_(box) {
   setPalette(PaletteWith(QPalette::Base, box.looks().backColor, QPalette::Text, colours::windowText));
   setReadOnly(true);
-  setFont(ToQFont(Font{}));
-  document()->setDocumentMargin(6);
+  // With a cursor that keys move, and with which they select.
+  setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  setTabChangesFocus(true);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   connect(this, &QTextEdit::selectionChanged, this, &RichTextWidget::HandInSelection);
 }
 
 void RichTextWidget::ShowLooks() {
   const QSignalBlocker quiet(this);
-  const std::size_t hash = std::hash<std::string>()(box_.TextRTF);
-  if (hash != shown_) {
-    shown_ = hash;
-    FillDocument(*document(), box_.document());
-    moveCursor(QTextCursor::Start);
-  }
+  ShowDocument();
   ShowSelection();
+}
+
+void RichTextWidget::ShowDocument() {
+  const std::size_t hash = std::hash<std::string>()(box_.TextRTF);
+  const bool another = std::exchange(shown_, hash) != hash;
+  const bool zoomed = std::exchange(shownAt_, zoom()) != zoom();
+  if (!another && !zoomed) return;
+  constexpr int margin = 6;
+  const QScrollBar& bar = *verticalScrollBar();
+  const double read = another ? 0 : bar.value() / std::max<double>(bar.maximum(), 1);
+  setFont(ToQFont(Font{}, zoom()));
+  document()->setDocumentMargin(zoom()(margin));
+  FillDocument(*document(), box_.document(), zoom());
+  moveCursor(QTextCursor::Start);
+  verticalScrollBar()->setValue(qRound(read * bar.maximum()));
+}
+
+void RichTextWidget::keyPressEvent(QKeyEvent* event) {
+  QTextEdit::keyPressEvent(event);
+  // The window may have a button for copying.
+  if (event->matches(QKeySequence::Copy)) event->ignore();
 }
 
 void RichTextWidget::HandInSelection() {

@@ -16,8 +16,10 @@ class RichTextWidget final : public QTextEdit, public Control {
 
  protected:
   void ShowLooks() override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void ShowDocument();
   void HandInSelection();
   void ShowSelection();
   int CharactersBefore(int position) const;
@@ -25,6 +27,7 @@ class RichTextWidget final : public QTextEdit, public Control {
 
   RichTextBox& box_;
   std::size_t shown_ = 0;  // a hash of the document on show
+  Zoom shownAt_;
 };
 
 }  // namespace quintara::desktop

@@ -112,6 +112,11 @@ void Session::ProgramEnded() {
   QCoreApplication::exit();
 }
 
+void Session::SetZoom(const Zoom& zoom) {
+  zoom_ = zoom;
+  ShowChanges();
+}
+
 bool Session::PointerMoved(const QPoint& screen) {
   return std::exchange(pointer_, screen) != screen;
 }

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "desktop/pictures.h"
+#include "desktop/zoom.h"
 
 namespace quintara {
 class Form;
@@ -50,6 +51,11 @@ class Session {
   // something appears or vanishes below a pointer at rest.
   bool PointerMoved(const QPoint& screen);
 
+  // How large windows are to be. Their places are on a desk that grows with them, so that they keep standing
+  // beside each other.
+  const Zoom& zoom() const { return zoom_; }
+  void SetZoom(const Zoom& zoom);
+
   // Null where the form has no window.
   FormWindow* WindowOf(const Form& form) const;
   Scene& scene() const { return scene_; }
@@ -64,6 +70,7 @@ class Session {
   void ShowChanges();
 
   Scene& scene_;
+  Zoom zoom_;
   Pictures pictures_;
   QElapsedTimer realTime_;
   QTimer nextTick_;

@@ -1,14 +1,16 @@
 #include "desktop/surface.h"
 
+#include <QtGui/QHelpEvent>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPaintEvent>
 #include <QtGui/QPainter>
+#include <QtWidgets/QToolTip>
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
 #include "desktop/appearance.h"
+#include "desktop/assistance.h"
 #include "desktop/control.h"
 #include "desktop/graphics_painter.h"
 #include "desktop/session.h"
@@ -30,6 +32,19 @@ QPixmap Load(const Picture& picture, const Scene& scene, Pictures& pictures) {
   return QPixmap(QString::fromStdU16String(scene.files().Locate(picture.name).path.u16string()));
 }
 
+// Scaled once, so that painting it need not.
+QPixmap Enlarged(const QPixmap& picture, const Zoom& zoom, qreal pixelRatio) {
+  const double factor = zoom.factor() * pixelRatio;
+  if (factor == 1 || picture.isNull()) return picture;
+  QPixmap shown = picture.scaled(picture.size() * factor, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  shown.setDevicePixelRatio(pixelRatio);
+  return shown;
+}
+
+std::vector<Object*> BackToFront(const Container& container) {
+  return {container.children().rbegin(), container.children().rend()};
+}
+
 }  // namespace
 
 Surface::Surface(Container& container, QWidget& parent, Session& session)
@@ -39,17 +54,23 @@ Surface::Surface(Container& container, QWidget& parent, Session& session)
   MakeChildren();
 }
 
-void Surface::FollowSurface() {
+void Surface::FollowSurface(const Zoom& zoom) {
+  if (std::exchange(zoom_, zoom) != zoom) {
+    shownPicture_.reset();
+    update();
+  }
   FollowBackground();
   FollowPainted();
-  for (const Child& child : children_) child.control->Follow();
-  update(layer_.Follow(container_, size(), devicePixelRatioF()));
+  for (const Child& child : children_) child.control->Follow(zoom_);
+  update(layer_.Follow(container_, size(), zoom_, devicePixelRatioF()));
 }
 
 void Surface::FollowBackground() {
   const Picture picture = PictureOf(container_);
   if (shownPicture_ == picture && shownColour_ == container_.BackColor.Get()) return;
-  if (shownPicture_ != picture) picture_ = Load(picture, session_.scene(), session_.pictures());
+  if (shownPicture_ != picture) {
+    picture_ = Enlarged(Load(picture, session_.scene(), session_.pictures()), zoom_, devicePixelRatioF());
+  }
   shownPicture_ = picture;
   shownColour_ = container_.BackColor;
   update();
@@ -58,10 +79,9 @@ void Surface::FollowBackground() {
 // Only graphical objects come and go with their arrays; what has a surface of its own is there from the
 // start.
 void Surface::MakeChildren() {
-  const auto& objects = container_.children();
-  for (auto object = objects.rbegin(); object != objects.rend(); ++object) {
+  for (Object* object : BackToFront(container_)) {
     // The widget made last is in front.
-    if (Control* control = MakeControl(**object, *this, session_)) children_.push_back({*object, control});
+    if (Control* control = MakeControl(*object, *this, session_)) children_.push_back({object, control});
   }
 }
 
@@ -76,9 +96,9 @@ void Surface::FollowPainted() {
   }
   for (Painted& painted : painted_) {
     if (painted.seen == painted.object->changes()) continue;
-    if (painted.visible) update(painted.area);
+    if (painted.visible) Repaint(painted.area);
     painted = StateOf(*painted.object);
-    if (painted.visible) update(painted.area);
+    if (painted.visible) Repaint(painted.area);
   }
 }
 
@@ -94,37 +114,46 @@ QWidget* Surface::WidgetOf(const Object& object) const {
 
 void Surface::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
   painter.fillRect(event->rect(), ToQColor(container_.BackColor));
   painter.drawPixmap(0, 0, picture_);
   layer_.Paint(painter);
-  const auto& objects = container_.children();
-  for (auto object = objects.rbegin(); object != objects.rend(); ++object) {
-    if (!IsGraphical((*object)->kind()) || !(*object)->IsVisible()) continue;
-    if (event->region().intersects(PaintedArea(**object, session_.pictures())))
-      PaintObject(painter, **object, session_.pictures());
+  painter.scale(zoom_.factor(), zoom_.factor());
+  for (const Object* object : BackToFront(container_)) {
+    if (!IsGraphical(object->kind()) || !object->IsVisible()) continue;
+    if (event->region().intersects(zoom_.Around(PaintedArea(*object, session_.pictures()))))
+      PaintObject(painter, *object, session_.pictures());
   }
 }
 
-Object* Surface::Under(const QMouseEvent& event) const {
+Object* Surface::Under(const QPoint& place) const {
   // The form's own surface fills its window.
-  const QPoint at = mapTo(window(), event.position().toPoint());
-  return ObjectAt(container_.form(), ToTwips(at.x()) + twipsPerPixel / 2,
-                  ToTwips(at.y()) + twipsPerPixel / 2);
+  const QPoint at = mapTo(window(), place);
+  const double twips = twipsPerPixel / zoom_.factor();
+  return ObjectAt(container_.form(), (at.x() + 0.5) * twips, (at.y() + 0.5) * twips);
+}
+
+// What is painted has no widget that could show its tool tip.
+bool Surface::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+  const auto* help = static_cast<QHelpEvent*>(event);
+  QToolTip::showText(help->globalPos(), ToolTipOf(*Under(help->pos())), this);
+  return true;
 }
 
 void Surface::mousePressEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) pressed_ = Under(*event);
+  if (event->button() == Qt::LeftButton) pressed_ = Under(event->position().toPoint());
 }
 
 void Surface::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
-  Object* released = Under(*event);
+  Object* released = Under(event->position().toPoint());
   if (std::exchange(pressed_, nullptr) == released) session_.Run([released] { UserClicks(*released); });
 }
 
 void Surface::mouseMoveEvent(QMouseEvent* event) {
   if (!session_.PointerMoved(event->globalPosition().toPoint())) return;
-  Object* under = Under(*event);
+  Object* under = Under(event->position().toPoint());
   session_.Run([under] { UserMovesOnto(*under); });
 }
 

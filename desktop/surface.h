@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "desktop/drawing_layer.h"
+#include "desktop/zoom.h"
 #include "scene/container.h"
 #include "scene/picture_box.h"
 
@@ -22,12 +23,14 @@ class Surface : public QWidget {
  public:
   Surface(Container& container, QWidget& parent, Session& session);
 
-  // Takes over what has changed in the Scene since the last call and repaints those parts.
-  void FollowSurface();
+  // Takes over what has changed in the Scene since the last call, and how large it is to be shown, and
+  // repaints those parts.
+  void FollowSurface(const Zoom& zoom);
   // The widget of a child of this surface, or null.
   QWidget* WidgetOf(const Object& object) const;
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
@@ -50,10 +53,12 @@ class Surface : public QWidget {
   void MakeChildren();
   void FollowPainted();
   Painted StateOf(const Object& object) const;
-  Object* Under(const QMouseEvent& event) const;
+  void Repaint(const QRect& area) { update(zoom_.Around(area)); }
+  Object* Under(const QPoint& place) const;
 
   Container& container_;
   Session& session_;
+  Zoom zoom_;
   DrawingLayer layer_;
   QPixmap picture_;
   std::optional<Picture> shownPicture_;

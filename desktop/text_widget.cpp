@@ -39,7 +39,6 @@ bool Commands(const QKeyEvent& event) {
 TextWidget::TextWidget(TextBox& box, QWidget& parent, Session& session)
     : QLineEdit(&parent), Control(box, *this, session), box_(box) {
   setPalette(PaletteWith(QPalette::Base, box.looks().backColor, QPalette::Text, box.looks().foreColor));
-  setFont(ToQFont(box.looks().font.value_or(box.form().looks().font)));
   // Whatever the keys below don't tell: paste, cut, undo, input methods.
   connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
     session_.Run([this, &text] { UserEdits(box_, text.toStdString()); });
@@ -47,6 +46,7 @@ TextWidget::TextWidget(TextBox& box, QWidget& parent, Session& session)
 }
 
 void TextWidget::ShowLooks() {
+  setFont(ToQFont(box_.looks().font.value_or(box_.form().looks().font), zoom()));
   const QString scene = ToQString(box_.Text.Get());
   if (!typing_ && text() != scene) setText(scene);
 }
@@ -61,7 +61,8 @@ void TextWidget::keyPressEvent(QKeyEvent* event) {
   typing_ = !atEnd;
   session_.Run([this, &character] { UserTypes(box_, *character); });
   typing_ = false;
-  event->accept();
+  // Escape also closes the window.
+  event->setAccepted(event->key() != Qt::Key_Escape);
   if (!atEnd && IsShown(box_)) {
     QLineEdit::keyPressEvent(event);
     session_.Run([this] { UserEdits(box_, text().toStdString()); });

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QtCore/QString>
+
+namespace quintara::desktop {
+
+// Where the program's files lie.
+struct ProgramFolders {
+  QString data;  // documents, pictures and sounds
+  QString own;   // the files that the program writes
+};
+
+// Beside the executable lies a data folder where it was built or unpacked, and all is kept in it; if it can't
+// be written to, what is written goes to the player's folder. Otherwise the program is installed for all:
+// `installedData` is the way to its data folder from that of the executable.
+ProgramFolders FindFolders(const QString& executableFolder, const QString& installedData,
+                           const QString& playersFolder);
+
+// Those of the running program. There must be an application object.
+ProgramFolders FindFolders();
+
+}  // namespace quintara::desktop

@@ -1,0 +1,174 @@
+#include "desktop/tour.h"
+
+#include "scene/scene.h"
+
+namespace quintara::desktop {
+namespace {
+
+// Where the radar finds a target, as the chance that decides it: 24.2 km after a long run, 22.0 km after a
+// short one.
+constexpr double farTarget = 0.7;
+constexpr double nearTarget = 0.06325;
+
+}  // namespace
+
+void Tour::Play() {
+  Start();
+  Picture("start", program_.quintara());
+  PlayFirstTarget();
+  PlaySecondAndThirdTarget();
+  PlayBonusShell();
+  ReadDocuments();
+  ShowDemonstrations();
+  Click(program_.quintara().cmdCancel);
+}
+
+void Tour::PlayFirstTarget() {
+  QuintaraForm& game = program_.quintara();
+  FindTarget(farTarget);
+  Picture("target-acquired", game);
+  OpenProfile();
+  Picture("profile", game);
+
+  Lay({320, 360});
+  Picture("aiming", game);
+  Fire();
+  AdvanceUntil([&] { return game.Line28.Visible.Get(); });
+  Picture("burst-on-slope", game);
+
+  Lay({310, 500});
+  Fire();
+  AdvanceUntil([&] { return game.Line37.Visible.Get(); });
+  Picture("burst-on-ground", game);
+
+  TurnDragOn();
+  Lay({311, 530});
+  Fire();
+  AdvanceUntil([&] { return game.shpExplode5.Visible.Get(); });
+  constexpr std::int64_t whileTheFlamesStand = 250;
+  Advance(whileTheFlamesStand);
+  Picture("hit", game);
+  WaitForReset();
+}
+
+void Tour::PlaySecondAndThirdTarget() {
+  QuintaraForm& game = program_.quintara();
+  FindTarget(nearTarget);
+  OpenProfile();
+  TurnDragOn();
+  Lay({310, 510});
+  Fire();
+  AdvanceUntil([&] { return game.Shape1(0).Left > 2000; });
+  Picture("in-flight", game);
+  PictureWithFrames("screenshot", {&game});
+  WaitForReset();
+
+  FindTarget(nearTarget);
+  OpenProfile();
+  TurnDragOn();
+  Lay({310, 510});
+  Fire();
+  WaitForReset();
+}
+
+void Tour::PlayBonusShell() {
+  QuintaraForm& game = program_.quintara();
+  MastersForm& masters = program_.masters();
+  FindTarget(nearTarget);
+  OpenProfile();
+  Lay({295, 660});
+  Picture("bonus-preview", game);
+  Fire();
+  AdvanceUntil([&] { return masters.IsVisible(); });
+  Picture("bonus-hit", game);
+  Type(masters.Text1, "Ada Lovelace");
+  Picture("masters-offer", masters);
+  Type(masters.Text1, "\r");
+  Picture("masters", masters);
+  Click(masters.cmdCancel);
+  constexpr std::int64_t untilTheFragmentsLie = 3000;
+  Advance(untilTheFragmentsLie);
+  WaitForReset();
+}
+
+void Tour::ReadDocuments() {
+  QuintaraForm& game = program_.quintara();
+  AnalysisForm& documents = program_.analysis();
+  Choose(game.mnuScenario);
+  Picture("scenario", documents);
+  Picture("place-names", game);
+  Click(documents.cmdCancel);
+  Choose(game.mnuRules);
+  Picture("rules", documents);
+  Choose(game.mnuAbout);
+  Picture("about", program_.about());
+  Click(program_.about().cmdOK);
+  Choose(game.mnuReadme);
+  Picture("readme", game);
+  Click(game.cmdCloseReadme);
+}
+
+void Tour::ShowDemonstrations() {
+  AnalysisForm& documents = program_.analysis();
+  ProjectileForm& bench = program_.projectile();
+  TrajectoryForm& simulator = program_.trajectory();
+  Choose(program_.quintara().mnuPhysics);
+  Picture("analysis", documents);
+
+  Click(documents.cmdFreeFall);
+  Click(bench.cmdBall3);
+  constexpr std::int64_t ballsHalfWayDown = 5000;
+  Advance(ballsHalfWayDown);
+  Picture("projectile", bench);
+
+  Click(documents.cmdTrajectory);
+  Drag(simulator.HScroll1, 315);
+  Drag(simulator.HScroll2, 280);
+  Click(simulator.cmdFire);
+  AdvanceUntil([&] { return simulator.Shape1.Left > 50000; });
+  Picture("trajectory", simulator);
+  PictureWithFrames("screenshot-teaching", {&bench, &simulator});
+}
+
+void Tour::FindTarget(double chance) {
+  QuintaraForm& game = program_.quintara();
+  Queue(chance);
+  Click(game.cmdSearch);
+  if (chance == farTarget) {
+    constexpr std::int64_t onTheWay = 7000;
+    Advance(onTheWay);
+    Picture("searching", game);
+  }
+  AdvanceUntil([&] { return game.cmdMagnify.Enabled.Get(); });
+}
+
+void Tour::OpenProfile() {
+  Click(program_.quintara().cmdMagnify);
+}
+
+void Tour::TurnDragOn() {
+  Queue(0);  // the thinnest air
+  Click(program_.quintara().cmdAdvanced);
+}
+
+void Tour::Lay(const Shot& shot) {
+  Drag(program_.quintara().VScroll1, shot.elevationBar);
+  Drag(program_.quintara().VScroll2, shot.velocity);
+}
+
+void Tour::Fire() {
+  Click(program_.quintara().Image7);
+}
+
+void Tour::WaitForReset() {
+  QuintaraForm& game = program_.quintara();
+  AdvanceUntil([&] { return game.cmdReset.Enabled.Get(); });
+  Click(game.cmdReset);
+}
+
+void Tour::Choose(Menu& item) {
+  platform_.Choose(item);
+  Click(program_.quintara().cmdHelp);
+}
+
+}  // namespace quintara::desktop

@@ -1,0 +1,63 @@
+#include "desktop/tour_platform.h"
+
+#include <utility>
+
+#include "desktop/session.h"
+
+namespace quintara::desktop {
+namespace {
+
+bool IsWrittenInAGame(const std::filesystem::path& path) {
+  return path.filename() == "Masters.txt" || path.filename() == "extra.txt";
+}
+
+}  // namespace
+
+FileSystem::Entry TourDisk::Look(const std::filesystem::path& path) {
+  const auto found = written_.find(path);
+  if (found != written_.end())
+    return {.exists = true, .isFile = true, .writable = true, .size = found->second.size()};
+  return IsWrittenInAGame(path) ? Entry{} : machine_.Look(path);
+}
+
+std::optional<std::string> TourDisk::Read(const std::filesystem::path& path, std::uint64_t offset,
+                                          std::size_t most) {
+  const auto found = written_.find(path);
+  if (found == written_.end())
+    return IsWrittenInAGame(path) ? std::nullopt : machine_.Read(path, offset, most);
+  const std::string& bytes = found->second;
+  return offset < bytes.size() ? bytes.substr(static_cast<std::size_t>(offset), most) : std::string();
+}
+
+bool TourDisk::Create(const std::filesystem::path& path, const std::string& bytes) {
+  return written_.emplace(path, bytes).second;
+}
+
+bool TourDisk::Replace(const std::filesystem::path& fresh, const std::filesystem::path& old) {
+  auto moved = written_.extract(fresh);
+  if (moved.empty()) return false;
+  written_[old] = std::move(moved.mapped());
+  return true;
+}
+
+std::int32_t TourPlatform::ShowMessageBox(const std::string& text, std::int32_t style, const std::string&) {
+  constexpr std::int32_t buttonsMask = 0x0F, yesAndNo = 4, chosenOk = 1, chosenNo = 7;
+  boxText_ = text;
+  return (style & buttonsMask) == yesAndNo ? chosenNo : chosenOk;
+}
+
+Menu* TourPlatform::RunPopupMenu(Form&, Menu&, double, double) {
+  return std::exchange(chosen_, nullptr);
+}
+
+void TourPlatform::FormShown(Form& form) {
+  if (session_ != nullptr) session_->FormShown(form);
+}
+void TourPlatform::FormUnloaded(Form& form) {
+  if (session_ != nullptr) session_->FormUnloaded(form);
+}
+void TourPlatform::ProgramEnded() {
+  if (session_ != nullptr) session_->ProgramEnded();
+}
+
+}  // namespace quintara::desktop

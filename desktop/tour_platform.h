@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QtCore/QString>
+
+#include <cstdint>
+#include <map>
+#include <string>
+
+#include "scene/file_system.h"
+#include "scene/platform.h"
+
+namespace quintara::desktop {
+
+class Session;
+
+// The files of this machine, of which none is ever changed: what the program writes is kept in memory and
+// read from there. What it writes in a player's game is not read from the disk either.
+class TourDisk final : public FileSystem {
+ public:
+  Entry Look(const std::filesystem::path& path) override;
+  std::optional<std::string> Read(const std::filesystem::path& path, std::uint64_t offset,
+                                  std::size_t most) override;
+  bool Create(const std::filesystem::path& path, const std::string& bytes) override;
+  bool Replace(const std::filesystem::path& fresh, const std::filesystem::path& old) override;
+  void Remove(const std::filesystem::path& path) override { written_.erase(path); }
+
+ private:
+  DiskFileSystem machine_;
+  std::map<std::filesystem::path, std::string> written_;
+};
+
+// A world for a game that plays by itself: the windows are real, but nothing waits for a user, nothing
+// sounds, and no two runs differ.
+class TourPlatform final : public Platform {
+ public:
+  explicit TourPlatform(const QString& programFolder) : programFolder_(programFolder.toStdString()) {}
+
+  void Attach(Session* session) { session_ = session; }
+  // What the next popup menu answers.
+  void Choose(Menu& item) { chosen_ = &item; }
+  // What a message box said; empty while there was none.
+  const std::string& boxText() const { return boxText_; }
+
+  std::string ProgramFolder() override { return programFolder_; }
+  FileSystem& Disk() override { return disk_; }
+  double ScreenWidth() override { return 28800; }
+  double ScreenHeight() override { return 16200; }
+  std::uint64_t Seed() override { return ++seed_; }
+  void PlaySound(const DataFile&) override {}
+  void Beep() override {}
+  std::int32_t ShowMessageBox(const std::string& text, std::int32_t style, const std::string& title) override;
+  Menu* RunPopupMenu(Form& form, Menu& menu, double x, double y) override;
+  void PutOnClipboard(const std::string&) override {}
+  void FormShown(Form& form) override;
+  void FormUnloaded(Form& form) override;
+  void ProgramEnded() override;
+
+ private:
+  std::string programFolder_;
+  TourDisk disk_;
+  Session* session_ = nullptr;
+  Menu* chosen_ = nullptr;
+  std::string boxText_;
+  std::uint64_t seed_ = 0;
+};
+
+}  // namespace quintara::desktop

@@ -1,0 +1,85 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QtTest/QTest>
+#include <QtWidgets/QApplication>
+
+#include <string>
+#include <vector>
+
+#include "desktop/desktop_platform.h"
+#include "desktop/form_window.h"
+#include "desktop/session.h"
+#include "program/program.h"
+#include "tests/support/recording_platform.h"
+
+namespace quintara::desktop {
+
+// The whole program in windows on the screen.
+class GameWindows : public testing::Test {
+ protected:
+  GameWindows() {
+    platform.Attach(&session);
+    session.Run([this] { program.Start(); });
+    Activate(main);
+  }
+  ~GameWindows() override { platform.Attach(nullptr); }
+
+  FormWindow& WindowOf(Form& form) { return *session.WindowOf(form); }
+  template <typename Widget = QWidget>
+  Widget& WidgetOf(const Object& object) {
+    return dynamic_cast<Widget&>(*WindowOf(object.form()).WidgetOf(object));
+  }
+  void Do(const std::function<void()>& handler) {
+    session.Run([&] { program.scene().dispatcher().Run(main, handler); });
+  }
+  void Activate(Form& form) {
+    WindowOf(form).activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&WindowOf(form)));
+  }
+  void Open(Form& form) {
+    Do([&] { form.Show(); });
+    Activate(form);
+  }
+  // A key as the user presses it: it goes to whatever has the focus.
+  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+  }
+  // From the locked-on target on, without the wait for it. The gun is laid, so that it can be fired.
+  void OpenProfile() {
+    Do([this] {
+      main.cmdSearch.Enabled = false;
+      main.cmdMagnify.Enabled = true;
+    });
+    Do([this] { main.cmdMagnify.Click.Raise(); });
+    Do([this] { main.Image7.Enabled = true; });
+  }
+  // The controls that the Tab key walks through, from the window on.
+  std::vector<std::string> TabOrder(Form& form) {
+    std::vector<std::string> names;
+    WindowOf(form).setFocus();
+    do {
+      Press(Qt::Key_Tab);
+      names.push_back(NameOfFocus(form));
+    } while (names.size() < 30 && (names.size() == 1 || names.back() != names.front()));
+    names.pop_back();
+    return names;
+  }
+  std::string NameOfFocus(Form& form) {
+    for (const Object* object : form.objects()) {
+      if (WindowOf(form).WidgetOf(*object) == QApplication::focusWidget()) return std::string(object->name());
+    }
+    return "";
+  }
+
+  TemporaryFolder folder;
+  DesktopPlatform platform{QString::fromStdString(folder.text())};
+  Program program{platform};
+  QuintaraForm& main = program.quintara();
+  Session session{program.scene()};
+};
+
+using Names = std::vector<std::string>;
+
+}  // namespace quintara::desktop

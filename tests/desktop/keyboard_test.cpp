@@ -1,0 +1,229 @@
+#include <gtest/gtest.h>
+
+#include <QtCore/QTimer>
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QSlider>
+#include <QtWidgets/QTextEdit>
+
+#include "tests/desktop/game_windows.h"
+
+namespace quintara::desktop {
+namespace {
+
+class KeyboardTest : public GameWindows {
+ protected:
+  // Presses Escape once a menu is open; returns whether one was.
+  void DismissMenu(bool& wasOpen, int tries = 200) {
+    QTimer::singleShot(5, &session_, [this, &wasOpen, tries] {
+      auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+      if (menu == nullptr) {
+        if (tries > 0) DismissMenu(wasOpen, tries - 1);
+        return;
+      }
+      wasOpen = true;
+      QTest::keyClick(menu, Qt::Key_Escape);
+    });
+  }
+
+ private:
+  QObject session_;
+};
+
+TEST_F(KeyboardTest, TabWalksThroughWhatCanBeUsed) {
+  EXPECT_EQ(TabOrder(main), (Names{"cmdSearch", "cmdSound", "cmdHelp", "cmdCancel"}));
+  OpenProfile();
+  EXPECT_EQ(TabOrder(main), (Names{"VScroll1", "VScroll2", "HScroll1", "cmdAdvanced", "Image7", "cmdSound",
+                                   "cmdHelp", "cmdCancel"}));
+  Press(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(NameOfFocus(main), "cmdCancel");
+
+  Open(program.trajectory());
+  EXPECT_EQ(TabOrder(program.trajectory()),
+            (Names{"HScroll1", "HScroll2", "HScroll3", "cmdFire", "Slider1", "cmdCancel"}));
+  Open(program.projectile());
+  EXPECT_EQ(TabOrder(program.projectile()),
+            (Names{"cmdBall1", "cmdBall2", "cmdBall3", "cmdStop", "cmdCancel"}));
+  Do([&] { program.analysis().Open(HelpTopic::Physics); });
+  Activate(program.analysis());
+  EXPECT_EQ(TabOrder(program.analysis()), (Names{"rtbMath", "cmdFreeFall", "cmdCancel", "cmdTrajectory"}));
+  Open(program.masters());
+  Do([&] { program.masters().Picture1.Visible = true; });
+  EXPECT_EQ(TabOrder(program.masters()), (Names{"Text1", "List1", "cmdRemove", "cmdCancel"}));
+}
+
+TEST_F(KeyboardTest, TheControlWithTheFocusIsMarked) {
+  OpenProfile();
+  for (const Object* object : {static_cast<Object*>(&main.VScroll1), static_cast<Object*>(&main.HScroll1),
+                               static_cast<Object*>(&main.Image7), static_cast<Object*>(&main.cmdHelp)}) {
+    QWidget& widget = WidgetOf(*object);
+    const QRect place(widget.mapTo(&WindowOf(main), QPoint()), widget.size());
+    WindowOf(main).setFocus();
+    const QImage without = WindowOf(main).grab(place).toImage();
+    widget.setFocus(Qt::TabFocusReason);
+    EXPECT_NE(WindowOf(main).grab(place).toImage(), without) << object->name();
+    WindowOf(main).setFocus();
+    EXPECT_EQ(WindowOf(main).grab(place).toImage(), without) << object->name();
+  }
+}
+
+TEST_F(KeyboardTest, BarsGoTheWayOfTheKeysWhicheverEndIsTheLarger) {
+  OpenProfile();
+  WidgetOf(main.VScroll1).setFocus();
+  Press(Qt::Key_Up);
+  EXPECT_EQ(main.VScroll1.Value, 339);
+  Press(Qt::Key_PageUp);
+  EXPECT_EQ(main.VScroll1.Value, 329);
+  Press(Qt::Key_Down);
+  EXPECT_EQ(main.VScroll1.Value, 330);
+  EXPECT_EQ(main.Label1.Caption, "40") << "the handler ran";
+  WidgetOf(main.VScroll2).setFocus();
+  Press(Qt::Key_Up);
+  EXPECT_EQ(main.VScroll2.Value, 260);
+  Press(Qt::Key_Home);
+  EXPECT_EQ(main.VScroll2.Value, 750);
+  Press(Qt::Key_PageDown);
+  EXPECT_EQ(main.VScroll2.Value, 740);
+  WidgetOf(main.HScroll1).setFocus();
+  Press(Qt::Key_Left);
+  EXPECT_EQ(main.HScroll1.Value, 14);
+  Press(Qt::Key_PageUp);
+  EXPECT_EQ(main.HScroll1.Value, 13);
+  Press(Qt::Key_End);
+  EXPECT_EQ(main.HScroll1.Value, 15);
+
+  TrajectoryForm& trajectory = program.trajectory();
+  Open(trajectory);
+  WidgetOf(trajectory.Slider1).setFocus();
+  Do([&] { trajectory.Slider1.Value = 50; });
+  Press(Qt::Key_PageUp);
+  EXPECT_EQ(trajectory.Slider1.Value, 45);
+  Press(Qt::Key_Left);
+  Press(Qt::Key_Up);
+  EXPECT_EQ(trajectory.Slider1.Value, 43);
+  Press(Qt::Key_PageDown);
+  EXPECT_EQ(trajectory.Slider1.Value, 48);
+  WidgetOf(trajectory.HScroll1).setFocus();
+  Press(Qt::Key_Right);
+  EXPECT_EQ(trajectory.HScroll1.Value, 349);
+}
+
+TEST_F(KeyboardTest, SpaceAndEnterPressWhatHasTheFocus) {
+  Names heard;
+  main.cmdSound.Click.Bind([&] { heard.push_back("sound"); });
+  main.Image7.Click.Bind([&] { heard.push_back("fire"); });
+  OpenProfile();
+  for (const Object* object : {static_cast<Object*>(&main.cmdSound), static_cast<Object*>(&main.Image7)}) {
+    WidgetOf(*object).setFocus();
+    Press(Qt::Key_Space);
+    Press(Qt::Key_Return);
+    Press(Qt::Key_Enter, Qt::KeypadModifier);
+  }
+  EXPECT_EQ(heard, (Names{"sound", "sound", "sound", "fire", "fire", "fire"}));
+  Do([&] { main.Image7.Enabled = false; });
+  EXPECT_EQ(NameOfFocus(main), "");
+  Press(Qt::Key_Space);
+  Press(Qt::Key_Return);
+  EXPECT_EQ(heard.size(), 6U);
+}
+
+TEST_F(KeyboardTest, LettersWorkTheConsoleAndNotWhatCannotBeUsed) {
+  Names heard;
+  const auto note = [&](Event<>& event, const char* what) {
+    event.Bind([&heard, what] { heard.push_back(what); });
+  };
+  note(main.cmdSearch.Click, "search");
+  note(main.Image7.Click, "fire");
+  note(main.cmdReset.Click, "reset");
+  note(main.cmdSound.Click, "sound");
+  Press(Qt::Key_S);
+  Press(Qt::Key_S, Qt::ShiftModifier);
+  Press(Qt::Key_S, Qt::ControlModifier);
+  Press(Qt::Key_F);
+  Press(Qt::Key_R);
+  Press(Qt::Key_O);
+  EXPECT_EQ(heard, (Names{"search", "search", "sound"}));
+  heard.clear();
+  OpenProfile();
+  Do([&] { main.cmdReset.Enabled = true; });
+  WidgetOf(main.VScroll1).setFocus();
+  Press(Qt::Key_F);
+  Press(Qt::Key_R);
+  Press(Qt::Key_S);
+  EXPECT_EQ(heard, (Names{"fire", "reset"}));
+  QKeyEvent held(QEvent::KeyPress, Qt::Key_F, Qt::NoModifier, "f", true);
+  QApplication::sendEvent(QApplication::focusWidget(), &held);
+  EXPECT_EQ(heard.size(), 2U) << "a key that is held down fires once";
+
+  MastersForm& masters = program.masters();
+  Open(masters);
+  Do([&] {
+    masters.Picture1.Visible = true;
+    masters.Text1.SetFocus();
+  });
+  QTest::keyClicks(&WidgetOf(masters.Text1), "F. S. Major");
+  EXPECT_EQ(masters.Text1.Text.Get(), "F. S. Major");
+  EXPECT_EQ(heard.size(), 2U);
+}
+
+TEST_F(KeyboardTest, HelpOpensFromEveryWindow) {
+  bool opened = false;
+  DismissMenu(opened);
+  Press(Qt::Key_H);
+  EXPECT_TRUE(opened);
+  Open(program.trajectory());
+  opened = false;
+  DismissMenu(opened);
+  Press(Qt::Key_F1);
+  EXPECT_TRUE(opened);
+}
+
+TEST_F(KeyboardTest, EscapeClosesSideWindowsOnly) {
+  Press(Qt::Key_Escape);
+  EXPECT_TRUE(main.loaded());
+  for (Form* form : {static_cast<Form*>(&program.about()), static_cast<Form*>(&program.projectile()),
+                     static_cast<Form*>(&program.trajectory()), static_cast<Form*>(&program.analysis())}) {
+    Open(*form);
+    Press(Qt::Key_Tab);
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(session.WindowOf(*form), nullptr) << form->name();
+  }
+  MastersForm& masters = program.masters();
+  Open(masters);
+  std::vector<int> keys;
+  masters.Text1.KeyPress.Bind([&](std::int16_t key) { keys.push_back(key); });
+  Do([&] {
+    masters.Picture1.Visible = true;
+    masters.Text1.SetFocus();
+  });
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(keys, std::vector<int>{27});
+  EXPECT_FALSE(masters.loaded()) << "also while a name is typed";
+}
+
+TEST_F(KeyboardTest, ADocumentIsReadAndCopiedWithKeys) {
+  AnalysisForm& analysis = program.analysis();
+  Do([&] {
+    analysis.Open(HelpTopic::Rules);
+    analysis.rtbMath.TextRTF = std::string("{\\rtf1 one two\\par three}");
+  });
+  Activate(analysis);
+  QGuiApplication::clipboard()->setText("before");
+  WidgetOf(analysis.rtbMath).setFocus();
+  Press(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), "before") << "nothing is selected";
+  for (int i = 0; i < 3; ++i) Press(Qt::Key_Right, Qt::ShiftModifier);
+  EXPECT_TRUE(analysis.cmdCopy.Enabled);
+  Press(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), "one");
+  WidgetOf(analysis.cmdCancel).setFocus();
+  QGuiApplication::clipboard()->clear();
+  Press(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), "one") << "wherever in the window the focus is";
+}
+
+}  // namespace
+}  // namespace quintara::desktop

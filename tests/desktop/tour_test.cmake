@@ -1,0 +1,41 @@
+# cmake -DPROGRAM=quintara -DFOLDER=SCRATCH_FOLDER -P tour_test.cmake: the tour from the command line, with what
+# goes wrong, and without a trace in the player's files.
+get_filename_component(data ${PROGRAM} DIRECTORY)
+string(APPEND data /data)
+file(REMOVE_RECURSE ${FOLDER})
+
+# tour(STATUS PATTERN ARGUMENT...): what it says has to match the pattern.
+function(tour status pattern)
+  execute_process(COMMAND ${PROGRAM} --tour ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE said ERROR_VARIABLE said)
+  if(NOT result EQUAL ${status} OR NOT said MATCHES "${pattern}")
+    message(FATAL_ERROR "--tour ${ARGN} ended with ${result}, not ${status}: ${said}")
+  endif()
+endfunction()
+
+file(GLOB own ${data}/*.txt)
+foreach(file IN LISTS own)
+  file(MD5 ${file} before)
+  list(APPEND sums ${before})
+endforeach()
+
+tour(0 "All went well" ${FOLDER}/new/pictures)
+file(GLOB pictures ${FOLDER}/new/pictures/*.png)
+list(LENGTH pictures count)
+if(NOT count EQUAL 23)
+  message(FATAL_ERROR "The tour left ${count} pictures.")
+endif()
+
+file(GLOB ownAfterwards ${data}/*.txt)
+foreach(file IN LISTS ownAfterwards)
+  file(MD5 ${file} after)
+  list(APPEND sumsAfterwards ${after})
+endforeach()
+if(NOT own STREQUAL ownAfterwards OR NOT sums STREQUAL sumsAfterwards)
+  message(FATAL_ERROR "The tour changed the player's own files.")
+endif()
+
+tour(2 "needs one folder")
+file(WRITE ${FOLDER}/file "")
+tour(1 "could not be made" ${FOLDER}/file/below)
+file(MAKE_DIRECTORY ${FOLDER}/taken/01-start.png)
+tour(1 "01-start.png could not be written: " ${FOLDER}/taken)

@@ -1,0 +1,185 @@
+#include <gtest/gtest.h>
+
+#include <QtGui/QScreen>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QStyle>
+
+#include <algorithm>
+#include <cstdlib>
+#include <utility>
+
+#include "desktop/zoom.h"
+#include "tests/desktop/game_windows.h"
+#include "tests/desktop/window_form.h"
+
+namespace quintara::desktop {
+namespace {
+
+TEST(ZoomValueTest, StepsLeadUpAndDownAndEnd) {
+  Zoom zoom;
+  EXPECT_EQ(zoom.Larger(), Zoom(1.1));
+  EXPECT_EQ(zoom.Smaller(), Zoom(0.9));
+  for (int i = 0; i < 20; ++i) zoom = zoom.Larger();
+  EXPECT_EQ(zoom, Zoom(3));
+  for (int i = 0; i < 20; ++i) zoom = zoom.Smaller();
+  EXPECT_EQ(zoom, Zoom(0.75));
+  EXPECT_EQ(Zoom(0.94).Larger(), Zoom(1)) << "from between two steps";
+}
+
+TEST(ZoomValueTest, PlacesThatTouchGoOnTouching) {
+  for (const double factor : {0.75, 0.9, 1.1, 1.25, 1.5, 1.75}) {
+    const Zoom zoom(factor);
+    for (int width = 1; width < 50; ++width) {
+      const QRect one = zoom(QRect(3, 5, width, 9)), next = zoom(QRect(3 + width, 5, 20, 9));
+      EXPECT_EQ(one.right() + 1, next.left());
+      EXPECT_TRUE(zoom.Around(QRect(3, 5, width, 9)).contains(one));
+    }
+  }
+  EXPECT_EQ(Zoom()(QRect(3, 5, 7, 9)), QRect(3, 5, 7, 9));
+  EXPECT_EQ(Zoom().Around(QRect(3, 5, 7, 9)), QRect(3, 5, 7, 9));
+}
+
+class ZoomTest : public WindowTest, public testing::WithParamInterface<double> {
+ protected:
+  QPoint At(int left, int top) const {
+    return QPointF(left / twipsPerPixel * session.zoom().factor(),
+                   top / twipsPerPixel * session.zoom().factor())
+        .toPoint();
+  }
+  // Whether the place shows a colour; thin lines turn pale where they are less than a pixel wide.
+  bool Shows(int left, int top, const QColor& colour) {
+    constexpr int pale = 80;
+    const QColor shown = window().grab().toImage().pixelColor(At(left, top));
+    return std::abs(shown.red() - colour.red()) < pale && std::abs(shown.green() - colour.green()) < pale &&
+           std::abs(shown.blue() - colour.blue()) < pale;
+  }
+  void ClickAt(int left, int top) {
+    QWidget* widget = window().childAt(At(left, top));
+    QTest::mouseClick(widget, Qt::LeftButton, {}, widget->mapFrom(&window(), At(left, top)));
+  }
+};
+INSTANTIATE_TEST_SUITE_P(Factors, ZoomTest, testing::Values(0.75, 1.0, 1.25, 1.5, 2.0));
+
+TEST_P(ZoomTest, EverythingGrowsTogetherAndTheMouseHitsWhatItShows) {
+  Note(form.imgFire.Click, "fire");
+  Note(form.cmdPush.Click, "push");
+  Do([&] {
+    form.picBack.DrawWidth = 8;
+    form.picBack.PSet(1050, 450, Colour(0x000000FF));
+  });
+  session.SetZoom(Zoom(GetParam()));
+  EXPECT_EQ(window().size(), (QSizeF(600, 400) * GetParam()).toSize());
+  EXPECT_TRUE(Shows(1950, 1350, QColor(255, 0, 0))) << "a dot";
+  EXPECT_TRUE(Shows(1000, 660, QColor(0, 0, 255))) << "a box";
+  EXPECT_TRUE(Shows(1650, 1650, QColor(255, 255, 0))) << "a shape in it";
+  EXPECT_TRUE(Shows(2250, 2100, QColor(255, 0, 0))) << "a line";
+  EXPECT_TRUE(Shows(8900, 5900, QColor(0, 255, 0))) << "the far corner";
+  EXPECT_EQ(WidgetOf(form.txtName).font().pixelSize(), qRound(11 * GetParam()));
+  EXPECT_EQ(WidgetOf(form.vsbUpside).height(), qRound(100 * GetParam()));
+
+  const QWidget& bar = WidgetOf(form.vsbUpside);
+  EXPECT_EQ(bar.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &bar), qRound(16 * GetParam()))
+      << "arrows";
+
+  const int nearEdge = 25;
+  for (const auto& [left, top] :
+       {std::pair(3000 + nearEdge, 300 + nearEdge), std::pair(3420 - nearEdge, 720 - nearEdge),
+        std::pair(3000 + nearEdge, 900 + nearEdge), std::pair(3900 - nearEdge, 1200 - nearEdge)})
+    ClickAt(left, top);
+  ClickAt(3000 - nearEdge, 400);
+  ClickAt(3420 + nearEdge, 400);
+  EXPECT_EQ(heard, (Heard{"fire", "fire", "push", "push"}));
+}
+
+TEST_P(ZoomTest, WhatMovesLeavesNothingBehind) {
+  session.SetZoom(Zoom(GetParam()));
+  for (int step = 0; step < 5; ++step) {
+    Do([&] {
+      form.shpInBox.Left = form.shpInBox.Left - 100.0;
+      form.Line1(0).Y1 = form.Line1(0).Y1 - 55.0;
+      form.imgFire.Left = form.imgFire.Left + 37.0;
+      form.lblBehind.Top = form.lblBehind.Top + 41.0;
+      form.picBack.PSet(100 + 70.0 * step, 300, Colour(0x00FF00FF));
+    });
+    QCoreApplication::processEvents();
+    const QImage screen = window().screen()->grabWindow(window().winId()).toImage();
+    EXPECT_EQ(window().grab().toImage().convertToFormat(screen.format()), screen);
+  }
+}
+
+TEST_P(ZoomTest, ItCanBeTakenBackWithoutATrace) {
+  const QImage before = window().grab().toImage();
+  session.SetZoom(Zoom(GetParam()));
+  session.SetZoom(Zoom());
+  EXPECT_EQ(window().grab().toImage(), before);
+  EXPECT_EQ(window().pos(), QPoint(200, 100));
+}
+
+TEST_P(ZoomTest, WindowsKeepTheirPlaceOnTheScreenAndStandBesideEachOther) {
+  session.SetZoom(Zoom(GetParam()));
+  EXPECT_EQ(window().pos(), QPoint(200, 100));
+  EXPECT_NEAR(platform.ScreenWidth(), 1920 * twipsPerPixel / GetParam(), 0.01);
+  Show(other);
+  Do([&] { other.Left = form.Left + form.Width / 2; });
+  const int half = qRound((form.Width / 2) / twipsPerPixel * GetParam());
+  EXPECT_NEAR(session.WindowOf(other)->x(), 200 + half, 1);
+  window().move(300, 150);
+  EXPECT_NEAR(form.Left.Get(), 300 * twipsPerPixel / GetParam(), 0.01);
+}
+
+class GameZoomTest : public GameWindows {
+ protected:
+  QRect Screen() { return WindowOf(main).screen()->availableGeometry(); }
+};
+
+TEST_F(GameZoomTest, KeysChangeTheSizeOfAllWindows) {
+  Open(program.about());
+  const QSize about = WindowOf(program.about()).size(), game = WindowOf(main).size();
+  Press(Qt::Key_Plus, Qt::ControlModifier | Qt::ShiftModifier);
+  Press(Qt::Key_Equal, Qt::ControlModifier);
+  EXPECT_EQ(session.zoom(), Zoom(1.25));
+  EXPECT_EQ(WindowOf(program.about()).width(), qRound(about.width() * 1.25));
+  EXPECT_EQ(WindowOf(main).width(), qRound(game.width() * 1.25));
+  Press(Qt::Key_0, Qt::ControlModifier);
+  EXPECT_EQ(WindowOf(program.about()).size(), about);
+  Press(Qt::Key_Minus, Qt::ControlModifier | Qt::KeypadModifier);
+  EXPECT_EQ(session.zoom(), Zoom(0.9));
+  Open(program.masters());
+  EXPECT_NEAR(WindowOf(program.masters()).width(), program.masters().InnerWidth() / twipsPerPixel * 0.9, 1)
+      << "a window that opens later";
+  Do([&] {
+    program.masters().Picture1.Visible = true;
+    program.masters().Text1.SetFocus();
+  });
+  Press(Qt::Key_Plus, Qt::ControlModifier);
+  EXPECT_EQ(session.zoom(), Zoom()) << "a text box has the focus";
+  EXPECT_EQ(program.masters().Text1.Text.Get(), "");
+}
+
+TEST_F(GameZoomTest, AWindowThatIsTooLargeFitsTheScreenInProportion) {
+  const QSizeF natural = WindowOf(main).size();
+  session.SetZoom(Zoom(3));
+  const FormWindow& window = WindowOf(main);
+  EXPECT_TRUE(Screen().contains(window.frameGeometry()));
+  EXPECT_NEAR(window.width() / natural.width(), window.height() / natural.height(), 0.005);
+  EXPECT_GT(window.height(), Screen().height() * 9 / 10);
+
+  int clicks = 0;
+  main.cmdSearch.Click.Bind([&] { ++clicks; });
+  main.cmdSound.Click.Bind([&] { ++clicks; });
+  for (const Object* object : {static_cast<Object*>(&main.cmdSearch), static_cast<Object*>(&main.cmdSound)}) {
+    double left = 0, top = 0;
+    for (const Object* at = object; at->container() != nullptr; at = &at->container()->object()) {
+      const Rectangle place = static_cast<const Box*>(at)->Surface();
+      left += place.left + (at == object ? place.width / 2 : 0);
+      top += place.top + (at == object ? place.height / 2 : 0);
+    }
+    const QPoint at = (QPointF(left, top) / twipsPerPixel * window.zoom().factor()).toPoint();
+    QWidget* hit = window.childAt(at);
+    QTest::mouseClick(hit, Qt::LeftButton, {}, hit->mapFrom(&window, at));
+  }
+  EXPECT_EQ(clicks, 2);
+}
+
+}  // namespace
+}  // namespace quintara::desktop
