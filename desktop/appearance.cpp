@@ -1,6 +1,7 @@
 #include "desktop/appearance.h"
 
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QWidget>
 
 #include <algorithm>
 
@@ -87,6 +88,11 @@ QPalette PaletteWith(QPalette::ColorRole faceRole, Colour face, QPalette::ColorR
   for (const auto group : {QPalette::Active, QPalette::Inactive})
     palette.setColor(group, textRole, ToQColor(text));
   return palette;
+}
+
+void FillBehindFrame(QWidget& widget) {
+  widget.setBackgroundRole(QPalette::Base);
+  widget.setAutoFillBackground(true);
 }
 
 }  // namespace quintara::desktop

@@ -10,6 +10,8 @@
 #include "scene/colour.h"
 #include "scene/looks.h"
 
+class QWidget;
+
 namespace quintara::desktop {
 
 // Gives the application the classic grey look, whatever the look of the system it runs on.
@@ -24,5 +26,9 @@ int ToPixelSize(double points);
 
 // The palette of the grey look with other colours for a face and what is written on it.
 QPalette PaletteWith(QPalette::ColorRole faceRole, Colour face, QPalette::ColorRole textRole, Colour text);
+
+// Lets the face of a framed widget reach below its frame, whose lines are thinner than a pixel of the window
+// where the screen has finer ones.
+void FillBehindFrame(QWidget& widget);
 
 }  // namespace quintara::desktop

@@ -1,6 +1,7 @@
 #include "desktop/control.h"
 
 #include <QtGui/QAccessible>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QWidget>
 
 #include <utility>
@@ -8,6 +9,7 @@
 #include "desktop/assistance.h"
 #include "desktop/bar_widgets.h"
 #include "desktop/button_widgets.h"
+#include "desktop/form_window.h"
 #include "desktop/image_widgets.h"
 #include "desktop/list_widget.h"
 #include "desktop/picture_widget.h"
@@ -18,14 +20,6 @@
 
 namespace quintara::desktop {
 namespace {
-
-// Left to itself, the focus would go on to the next button, where a blank that the user types may end the
-// game.
-void DropFocus(const QWidget& widget) {
-  QWidget* window = widget.window();
-  const QWidget* focused = window->focusWidget();
-  if (focused == &widget || widget.isAncestorOf(focused)) window->setFocus();
-}
 
 // The widget that makes an image or a label known to keyboard and assistive tools; most need none.
 Control* MakeImageButton(Image& image, QWidget& parent, Session& session) {
@@ -43,7 +37,11 @@ void Control::Follow(const Zoom& zoom) {
   if (!std::exchange(fresh_, false) && !zoomed && seen_ == box_.changes()) return;
   seen_ = box_.changes();
   const QRect place = zoom(ToPixels(box_.Surface()));
-  if (!box_.IsEnabled() || !box_.IsVisible()) DropFocus(widget_);
+  if (!box_.IsEnabled() || !box_.IsVisible()) static_cast<FormWindow*>(widget_.window())->DropFocus(widget_);
+  // A scroll area lays its bars out anew only where they tell it of their new breadth.
+  if (zoomed) {
+    for (QScrollBar* bar : widget_.findChildren<QScrollBar*>()) bar->updateGeometry();
+  }
   widget_.setGeometry(place);
   widget_.setEnabled(box_.IsEnabled());
   ShowLooks();

@@ -5,13 +5,13 @@
 #include <QtCore/QRandomGenerator>
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
-#include <QtGui/QScreen>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMessageBox>
 
 #include "desktop/appearance.h"
 #include "desktop/form_window.h"
+#include "desktop/screens.h"
 #include "desktop/session.h"
 #include "desktop/units.h"
 #include "scene/form.h"
@@ -20,12 +20,8 @@
 namespace quintara::desktop {
 namespace {
 
-QSize ScreenSize() {
-  return QGuiApplication::primaryScreen()->size();
-}
-
-double ZoomOf(const Session* session) {
-  return session != nullptr ? session->zoom().factor() : 1;
+Zoom ZoomOf(const Session* session) {
+  return session != nullptr ? session->zoom() : Zoom();
 }
 
 // While this lives, a handler waits for the user.
@@ -52,10 +48,10 @@ DesktopPlatform::DesktopPlatform(const ProgramFolders& folders)
 }
 
 double DesktopPlatform::ScreenWidth() {
-  return ToTwips(ScreenSize().width()) / ZoomOf(session_);
+  return ToTwips(MainScreenSize().width()) / ZoomOf(session_).factor();
 }
 double DesktopPlatform::ScreenHeight() {
-  return ToTwips(ScreenSize().height()) / ZoomOf(session_);
+  return ToTwips(MainScreenSize().height()) / ZoomOf(session_).factor();
 }
 
 std::uint64_t DesktopPlatform::Seed() {
@@ -77,6 +73,7 @@ std::int32_t DesktopPlatform::ShowMessageBox(const std::string& text, std::int32
   constexpr std::int32_t chosenOk = 1, chosenYes = 6, chosenNo = 7;
   const bool asks = (style & buttonsMask) == yesAndNo;
   QMessageBox box(QApplication::activeWindow());
+  box.setFont(ToQFont(Font{}, ZoomOf(session_)));
   box.setWindowTitle(ToQString(title));
   box.setTextFormat(Qt::PlainText);
   box.setText(ToQString(text));

@@ -1,16 +1,17 @@
 #include "desktop/form_window.h"
 
 #include <QtGui/QCloseEvent>
-#include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMoveEvent>
 #include <QtGui/QScreen>
+#include <QtGui/QWindow>
 
 #include <algorithm>
 #include <utility>
 
 #include "desktop/assistance.h"
 #include "desktop/keyboard.h"
+#include "desktop/screens.h"
 #include "desktop/session.h"
 #include "desktop/units.h"
 #include "scene/form.h"
@@ -32,7 +33,7 @@ constexpr int frameTopAndBottom = 40;
 QPoint WithinReach(const QPoint& place, int width) {
   constexpr int grip = 80;
   constexpr int titleBar = 40;
-  const QRect screens = QGuiApplication::primaryScreen()->availableVirtualGeometry();
+  const QRect screens = RoomOnAllScreens();
   const auto between = [](int low, int value, int high) { return std::max(low, std::min(value, high)); };
   return {between(screens.left() + grip - width, place.x(), screens.right() - grip),
           between(screens.top(), place.y(), screens.bottom() - titleBar)};
@@ -65,10 +66,9 @@ FormWindow::FormWindow(Form& form, Session& session)
   LayTabOrder();
   // No control has the focus until the user or a handler gives it to one.
   setFocus();
-  connect(screen(), &QScreen::availableGeometryChanged, this, [this] {
-    fresh_ = true;
-    Follow();
-  });
+  create();
+  connect(windowHandle(), &QWindow::screenChanged, this, &FormWindow::FollowScreen);
+  FollowScreen();
 }
 
 void FormWindow::LayTabOrder() {
@@ -82,6 +82,18 @@ void FormWindow::LayTabOrder() {
     last = widget;
   }
   setFocusPolicy(Qt::NoFocus);
+}
+
+// Another screen may have other room and finer pixels, and so may the same one later.
+void FormWindow::FollowScreen() {
+  const auto lookAgain = [this] {
+    fresh_ = true;
+    Follow();
+  };
+  disconnect(screenWatch_);
+  if (screen() != nullptr)
+    screenWatch_ = connect(screen(), &QScreen::availableGeometryChanged, this, lookAgain);
+  if (isVisible()) lookAgain();
 }
 
 void FormWindow::Follow() {
@@ -107,8 +119,8 @@ void FormWindow::FollowDesk() {
 void FormWindow::FollowFrame() {
   setWindowTitle(ToQString(form_.Caption.Get()));
   const QSize inner(ToPixels(form_.InnerWidth()), ToPixels(form_.InnerHeight()));
-  const QRect screen = this->screen()->availableGeometry();
-  const bool zoomed = std::exchange(zoom_, FittingZoom(desk_, inner, screen)) != zoom_;
+  const QRect room = RoomOn(screen());
+  const bool zoomed = std::exchange(zoom_, FittingZoom(desk_, inner, room)) != zoom_;
   const QSize shown = zoom_(QRect(QPoint(), inner)).size();
   setFixedSize(shown);
   surface_.resize(shown);
@@ -116,7 +128,7 @@ void FormWindow::FollowFrame() {
   if (wanted == wanted_ && isVisible() && !zoomed) return;
   wanted_ = wanted;
   placed_ = WithinReach(wanted, shown.width());
-  if (zoom_ != desk_) placed_ = Within(screen, placed_, shown + QSize(frameSides, frameTopAndBottom));
+  if (zoom_ != desk_) placed_ = Within(room, placed_, shown + QSize(frameSides, frameTopAndBottom));
   move(placed_);
 }
 
@@ -135,6 +147,28 @@ void FormWindow::BringToFront() {
   show();
   raise();
   activateWindow();
+}
+
+// Left to itself, the focus would go on to the next button, where a blank that the user types may end the
+// game.
+void FormWindow::DropFocus(QWidget& control) {
+  QWidget* focused = focusWidget();
+  if (focused != &control && !control.isAncestorOf(focused)) return;
+  lostFocus_ = focused;
+  setFocus();
+}
+
+bool FormWindow::focusNextPrevChild(bool next) {
+  if (focusWidget() != this || lostFocus_ == nullptr) return QWidget::focusNextPrevChild(next);
+  const auto takesTab = [this](const QWidget& widget) {
+    return widget.isEnabled() && widget.isVisibleTo(this) && (widget.focusPolicy() & Qt::TabFocus) != 0;
+  };
+  QWidget* to = lostFocus_;
+  do {
+    to = next ? to->nextInFocusChain() : to->previousInFocusChain();
+  } while (to != lostFocus_ && !takesTab(*to));
+  to->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+  return true;
 }
 
 QWidget* FormWindow::WidgetOf(const Object& object) const {

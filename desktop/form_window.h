@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QPoint>
+#include <QtCore/QPointer>
 #include <QtWidgets/QWidget>
 
 #include "desktop/focus_mark.h"
@@ -23,6 +24,8 @@ class FormWindow final : public QWidget {
   // Takes over what has changed in the Scene since the last call.
   void Follow();
   void BringToFront();
+  // The control can't have the focus any more; nothing has it until the user moves on from there.
+  void DropFocus(QWidget& control);
   // The widget of an object that has a surface of its own, or null.
   QWidget* WidgetOf(const Object& object) const;
   Surface& surface() { return surface_; }
@@ -33,9 +36,11 @@ class FormWindow final : public QWidget {
   void closeEvent(QCloseEvent* event) override;
   void moveEvent(QMoveEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
 
  private:
   void LayTabOrder();
+  void FollowScreen();
   void FollowDesk();
   void FollowFrame();
   QPoint WantedPlace() const;
@@ -47,6 +52,8 @@ class FormWindow final : public QWidget {
   Zoom zoom_;
   Surface surface_;
   FocusMark focusMark_;
+  QPointer<QWidget> lostFocus_;  // where the focus was before nothing had it
+  QMetaObject::Connection screenWatch_;
   QPoint wanted_;  // the frame's place as the Scene told it last, or as the user moved it since
   QPoint placed_;  // where the frame was put, which keeps it within reach on the screen
   ChangeCount seen_ = 0;

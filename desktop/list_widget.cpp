@@ -41,6 +41,7 @@ class ListWidget::Items final : public QAbstractListModel {
 ListWidget::ListWidget(ListBox& box, QWidget& parent, Session& session)
     : QListView(&parent), Control(box, *this, session), box_(box), items_(new Items(box, this)) {
   setPalette(PaletteWith(QPalette::Base, box.looks().backColor, QPalette::Text, box.looks().foreColor));
+  FillBehindFrame(*this);
   setUniformItemSizes(true);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setTextElideMode(Qt::ElideNone);

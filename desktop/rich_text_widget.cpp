@@ -21,6 +21,7 @@ namespace quintara::desktop {
 RichTextWidget::RichTextWidget(RichTextBox& box, QWidget& parent, Session& session)
     : QTextEdit(&parent), Control(box, *this, session), box_(box) {
   setPalette(PaletteWith(QPalette::Base, box.looks().backColor, QPalette::Text, colours::windowText));
+  FillBehindFrame(*this);
   setReadOnly(true);
   // With a cursor that keys move, and with which they select.
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

@@ -1,11 +1,14 @@
 #include "desktop/session.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QThread>
+#include <QtWidgets/QToolTip>
 
 #include <algorithm>
 #include <exception>
 #include <utility>
 
+#include "desktop/appearance.h"
 #include "desktop/form_window.h"
 #include "scene/form.h"
 #include "scene/scene.h"
@@ -108,12 +111,14 @@ void Session::ProgramEnded() {
   toShow_.clear();
   windows_.clear();
   nextTick_.stop();
-  // Not quit(), which asks every window first.
-  QCoreApplication::exit();
+  // Not quit(), which asks every window first. Where no event loop runs there is none to leave, and the next
+  // one to begin would end at once.
+  if (QThread::currentThread()->loopLevel() > 0) QCoreApplication::exit();
 }
 
 void Session::SetZoom(const Zoom& zoom) {
   zoom_ = zoom;
+  QToolTip::setFont(ToQFont(Font{}, zoom));
   ShowChanges();
 }
 

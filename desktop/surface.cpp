@@ -55,21 +55,24 @@ Surface::Surface(Container& container, QWidget& parent, Session& session)
 }
 
 void Surface::FollowSurface(const Zoom& zoom) {
-  if (std::exchange(zoom_, zoom) != zoom) {
+  const qreal ratio = devicePixelRatioF();
+  if (zoom_ != zoom || pixelRatio_ != ratio) {
+    zoom_ = zoom;
+    pixelRatio_ = ratio;
     shownPicture_.reset();
     update();
   }
   FollowBackground();
   FollowPainted();
   for (const Child& child : children_) child.control->Follow(zoom_);
-  update(layer_.Follow(container_, size(), zoom_, devicePixelRatioF()));
+  update(layer_.Follow(container_, size(), zoom_, pixelRatio_));
 }
 
 void Surface::FollowBackground() {
   const Picture picture = PictureOf(container_);
   if (shownPicture_ == picture && shownColour_ == container_.BackColor.Get()) return;
   if (shownPicture_ != picture) {
-    picture_ = Enlarged(Load(picture, session_.scene(), session_.pictures()), zoom_, devicePixelRatioF());
+    picture_ = Enlarged(Load(picture, session_.scene(), session_.pictures()), zoom_, pixelRatio_);
   }
   shownPicture_ = picture;
   shownColour_ = container_.BackColor;

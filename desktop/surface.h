@@ -59,6 +59,7 @@ class Surface : public QWidget {
   Container& container_;
   Session& session_;
   Zoom zoom_;
+  qreal pixelRatio_ = 1;  // pixels of the screen to each of the window
   DrawingLayer layer_;
   QPixmap picture_;
   std::optional<Picture> shownPicture_;

@@ -39,6 +39,7 @@ bool Commands(const QKeyEvent& event) {
 TextWidget::TextWidget(TextBox& box, QWidget& parent, Session& session)
     : QLineEdit(&parent), Control(box, *this, session), box_(box) {
   setPalette(PaletteWith(QPalette::Base, box.looks().backColor, QPalette::Text, box.looks().foreColor));
+  FillBehindFrame(*this);
   // Whatever the keys below don't tell: paste, cut, undo, input methods.
   connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
     session_.Run([this, &text] { UserEdits(box_, text.toStdString()); });

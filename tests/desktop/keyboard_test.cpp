@@ -55,6 +55,17 @@ TEST_F(KeyboardTest, TabWalksThroughWhatCanBeUsed) {
   EXPECT_EQ(TabOrder(program.masters()), (Names{"Text1", "List1", "cmdRemove", "cmdCancel"}));
 }
 
+TEST_F(KeyboardTest, TabGoesOnFromAControlThatCanNotBeUsedAnyMore) {
+  main.cmdSound.Click.Bind([&] { main.cmdSound.Enabled = false; });
+  WidgetOf(main.cmdSound).setFocus();
+  Press(Qt::Key_Space);
+  EXPECT_EQ(NameOfFocus(main), "") << "a second blank presses nothing";
+  Press(Qt::Key_Tab);
+  EXPECT_EQ(NameOfFocus(main), "cmdHelp");
+  Press(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(NameOfFocus(main), "cmdSearch");
+}
+
 TEST_F(KeyboardTest, TheControlWithTheFocusIsMarked) {
   OpenProfile();
   for (const Object* object : {static_cast<Object*>(&main.VScroll1), static_cast<Object*>(&main.HScroll1),

@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <QtGui/QScreen>
+#include <QtGui/QWindow>
+#include <QtWidgets/QAbstractScrollArea>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QStyle>
 
 #include <algorithm>
@@ -125,6 +128,51 @@ TEST_P(ZoomTest, WindowsKeepTheirPlaceOnTheScreenAndStandBesideEachOther) {
   EXPECT_NEAR(session.WindowOf(other)->x(), 200 + half, 1);
   window().move(300, 150);
   EXPECT_NEAR(form.Left.Get(), 300 * twipsPerPixel / GetParam(), 0.01);
+}
+
+using ScreenTest = WindowTest;
+
+TEST_F(ScreenTest, AScreenOfFinerPixelsShowsAWindowThatComesThereAsSharpAsALargerOne) {
+  Do([&] {
+    form.imgOver.Visible = false;
+    form.cmdPush.Visible = false;  // the style draws its edge finer
+    form.picFront.Picture = Picture{"fire", false};
+    form.picBack.PSet(1050, 450, Colour(0x000000FF));
+  });
+  const auto picture = [&] {
+    const QImage all = window().grab().toImage();
+    const QRect painted(0, 0, 600, 340);
+    return all.copy(painted).convertToFormat(QImage::Format_RGB32);
+  };
+  session.SetZoom(Zoom(2));
+  const QImage larger = picture();
+  session.SetZoom(Zoom());
+  window().windowHandle()->setScreen(QGuiApplication::screens().back());
+  QImage finer = picture();
+  ASSERT_EQ(finer.devicePixelRatio(), 2);
+  ASSERT_EQ(finer.size(), larger.size());
+  finer.setDevicePixelRatio(1);
+  EXPECT_EQ(finer, larger);
+}
+
+// A frame that leaves a pixel unpainted lets the form shine through.
+TEST_F(ScreenTest, FramesHaveNoGapsOnFinerPixels) {
+  window().windowHandle()->setScreen(QGuiApplication::screens().back());
+  for (const Object* object : {static_cast<Object*>(&form.txtName), static_cast<Object*>(&form.lstNames),
+                               static_cast<Object*>(&form.rtbText)}) {
+    const QImage shown = window().grab(WidgetOf(*object).geometry()).toImage();
+    const int middle = shown.height() / 2;
+    for (int x = 0; x < shown.width(); ++x)
+      ASSERT_NE(shown.pixelColor(x, middle), QColor(0, 255, 0)) << object->name() << " at " << x;
+  }
+}
+
+TEST_F(ScreenTest, TheScrollBarOfADocumentGrowsWithIt) {
+  session.SetZoom(Zoom(2));
+  const auto& document = WidgetOf<QAbstractScrollArea>(form.rtbText);
+  const QScrollBar& bar = *document.verticalScrollBar();
+  EXPECT_EQ(bar.width(), bar.sizeHint().width());
+  EXPECT_EQ(bar.width(), 32);
 }
 
 class GameZoomTest : public GameWindows {
