@@ -159,7 +159,9 @@ void WriteBmp(const std::filesystem::path& path, const Bitmap& bitmap) {
   Save(path, out);
 }
 
-void WriteWav(const std::filesystem::path& path, const std::vector<std::int16_t>& samples) {
+void WriteWav(const std::filesystem::path& path, const std::vector<std::int16_t>& samples,
+              int samplesPerSecond) {
+  const std::uint32_t rate = static_cast<std::uint32_t>(samplesPerSecond);
   const std::uint32_t size = static_cast<std::uint32_t>(samples.size() * 2);
   Bytes out;
   PutText(out, "RIFF");
@@ -168,8 +170,8 @@ void WriteWav(const std::filesystem::path& path, const std::vector<std::int16_t>
   PutLittle(out, 16, 4);
   PutLittle(out, 1, 2);
   PutLittle(out, 1, 2);
-  PutLittle(out, 22050, 4);
-  PutLittle(out, 44100, 4);
+  PutLittle(out, rate, 4);
+  PutLittle(out, rate * 2, 4);
   PutLittle(out, 2, 2);
   PutLittle(out, 16, 2);
   PutText(out, "data");

@@ -16,8 +16,9 @@ void WritePng(const std::filesystem::path& path, const Bitmap& bitmap);
 // 24 bits a pixel; transparency is lost.
 void WriteBmp(const std::filesystem::path& path, const Bitmap& bitmap);
 
-// One channel of 16 bits, 22050 samples a second.
-void WriteWav(const std::filesystem::path& path, const std::vector<std::int16_t>& samples);
+// One channel of 16 bits.
+void WriteWav(const std::filesystem::path& path, const std::vector<std::int16_t>& samples,
+              int samplesPerSecond);
 
 }  // namespace quintara::art
 

@@ -1,3 +1,5 @@
+#include "art/ground.h"
+
 #include "art/noise.h"
 #include "art/pictures.h"
 #include "art/shapes.h"
@@ -7,64 +9,94 @@ namespace {
 
 constexpr int width = 1018;
 constexpr int height = 46;
+constexpr int fine = 2;
 
-double TurfTop(double x) {
+// Where the mountain stands on the meadow, as a share; its box reaches a little below the picture's upper
+// edge, so that grass has to fill the picture there.
+double MountainFoot(double x) {
+  return SmoothStep(-60, 46, x) * (1 - SmoothStep(288, 420, x));
+}
+
+double FarEdge(double x) {
   const double swell = 4.2 * Fractal(x / 130, 0.5, 3, 21) + 1.6 * Fractal(x / 22, 3.5, 3, 22);
-  const double blade =
-      2.6 * Square(Chance(static_cast<int>(x), 0, 23)) * SmoothStep(-0.3, 0.3, Noise(x / 40, 1.5, 24));
-  // The mountain's box ends two pixels below the strip's upper edge, so the turf rises to meet its foot.
-  const double foot = SmoothStep(30, 56, x) * (1 - SmoothStep(280, 316, x));
-  return 8 - 6.4 * foot + (1 - 0.85 * foot) * (swell - blade);
+  return Lerp(8 + swell, -1.5, MountainFoot(x));
 }
 
-Color Soil(double x, double y, double depth) {
-  const double bedding = Fractal(x / 60, y / 5 + 0.4 * Noise(x / 90, 2.5, 25), 4, 26);
-  const double crumbs = Fractal(x * 0.28, y * 0.3, 3, 27);
-  Color color = Mix(Rgb(0x54381C), Rgb(0xA87C48), Clamp01(0.5 + 0.55 * bedding + 0.4 * crumbs));
-  color = Mix(color, Rgb(0x342418), 0.6 * SmoothStep(14, 40, depth));
-  return color;
+// The meadow as one sees it along the ground: pale and smooth at its far edge, with blades near by.
+Color MeadowColor(double x, double y, double depth) {
+  const double near = Clamp01(depth / 34);
+  const double dry = SmoothStep(-0.25, 0.4, Fractal(x / 85, y / 9, 3, 34));
+  const double tufts = Fractal(x * 0.22, y * 0.45, 3, 33);
+  const double blades = Fractal(x * 0.8, y * 0.22, 2, 35);
+  const Color far = Mix(meadowEdge, Rgb(0x94985C), 0.6 * dry);
+  const Color grass = Mix(Rgb(0x4C7030), Rgb(0x7C8440), dry);
+  const double light = 1 + (0.10 + 0.16 * near) * tufts + 0.30 * near * blades;
+  return Scaled(Mix(far, grass, SmoothStep(0.0, 0.62, near)), light);
 }
 
-// Stones lie one in some of the cells of a grid, shaded like little balls.
-Color WithStones(Color soil, double x, double y) {
-  const int column = static_cast<int>(std::floor(x / 13));
-  const int row = static_cast<int>(std::floor(y / 8));
-  if (row < 2 || Chance(column, row, 28) > 0.38) return soil;
-  const double radius = 1.6 + 2.6 * Chance(column, row, 29);
-  const double centerX = column * 13 + 4.5 + 4 * Chance(column, row, 30);
-  const double centerY = row * 8 + 3.5 + Chance(column, row, 31);
-  const double dx = (x - centerX) / (radius * 1.35);
-  const double dy = (y - centerY) / (radius * 0.85);
-  const double away = Length(dx, dy) + 0.2 * Noise(x * 0.5, y * 0.5, 32);
-  if (away > 1.15) return soil;
-  const Color stone = Mix(Rgb(0x443C38), Rgb(0xC8BCA4), Clamp01(0.45 + 0.4 * dx - 0.55 * dy));
-  return away > 0.95 ? Scaled(soil, 0.6) : stone;
+// Beaten earth with two ruts.
+Color TrackColor(double x, double y) {
+  const double crumbs = Fractal(x * 0.30, y * 0.55, 3, 27);
+  const double worn = Fractal(x / 48, y / 4, 3, 26);
+  const double bend = 0.9 * Noise(x / 70, 4.5, 25);
+  double rut = 0;
+  for (double middle : {33.4, 40.2}) rut = std::max(rut, 1 - std::fabs(y - middle - bend) / 1.5);
+  const Color earth = Mix(Rgb(0x6C5030), Rgb(0xA88858), Clamp01(0.52 + 0.35 * worn + 0.35 * crumbs));
+  return Scaled(earth, 1 - 0.22 * Clamp01(rut + 0.3 * crumbs));
 }
 
-Color Turf(double x, double y, double depth) {
-  const double blades = Fractal(x * 0.55, y * 0.16, 2, 33);
-  const double dry = SmoothStep(-0.1, 0.4, Fractal(x / 70, 5.5, 3, 34));
-  const Color dark = Mix(Rgb(0x28481C), Rgb(0x5C5424), dry);
-  const Color bright = Mix(Rgb(0x88B044), Rgb(0xC8B458), dry);
-  return Mix(dark, bright, Clamp01(0.75 + 0.7 * blades - depth * 0.11));
+// How far the track covers the meadow; grass grows over both its edges in tufts.
+double TrackShare(double x, double y) {
+  const double upper = 30.6 + 1.5 * Noise(x / 60, 0.5, 28) + 1.3 * Noise(x * 0.45, 1.5, 29);
+  const double lower = 44.2 + 1.2 * Noise(x / 60, 2.5, 30) + 1.5 * Noise(x * 0.45, 3.5, 31);
+  return SmoothStep(upper - 0.7, upper + 0.7, y) * (1 - SmoothStep(lower - 0.7, lower + 0.7, y));
+}
+
+// Bushes stand in loose groups on the farther half, so that targets and bursts keep a calm background.
+void PlantBushes(Brush& brush) {
+  for (int row = 0; row < 12; ++row) {
+    for (int column = 0; column < width / 3; ++column) {
+      const double x = (column + Chance(column, row, 41)) * 3;
+      const double depth = 1.2 + row * 1.25 + Chance(column, row, 42);
+      const double thicket = Fractal(x / 45, row * 0.22, 3, 43);
+      if (Chance(column, row, 44) > SmoothStep(0.12, 0.42, thicket) * 0.75 + 0.004) continue;
+      const double size = (1.1 + 0.09 * depth) * (0.8 + 0.6 * Chance(column, row, 45));
+      const Point crown{x, std::max(FarEdge(x), 1 + 2.2 * size) + depth - 0.8 * size};
+      const Box box{static_cast<int>(x - 2 * size) - 1, static_cast<int>(crown.y - size) - 2,
+                    static_cast<int>(x + 2 * size) + 2, static_cast<int>(crown.y + 2 * size) + 2};
+      const Point shadow{crown.x - 0.7 * size, crown.y + 0.75 * size};
+      brush.Fill(
+          box, [=](Point p) { return EllipseDistance(p, shadow, 1.25 * size, 0.35 * size); }, Rgb(0x20341C),
+          0.55);
+      brush.Fill(
+          box, [=](Point p) { return EllipseDistance(p, crown, 0.95 * size, size); },
+          [=](Point p) {
+            const double light = 0.36 + 0.45 * (p.x - crown.x) / size - 0.45 * (p.y - crown.y) / size;
+            const Color leaves = Mix(Rgb(0x1C3820), Rgb(0x88A04C), Clamp01(light));
+            return Mix(leaves, meadowEdge, 0.35 * Clamp01(1 - depth / 12));
+          });
+    }
+  }
 }
 
 }  // namespace
 
 Canvas PaintGround() {
-  Canvas canvas(width, height);
-  for (int x = 0; x < width; ++x) {
-    const double top = TurfTop(x + 0.5);
-    const double rootDepth = 6.5 + 3.5 * Fractal(x * 0.21, 1.5, 3, 35);
-    for (int y = 0; y < height; ++y) {
-      const double depth = y + 0.5 - top;
-      if (depth < -0.5) continue;
-      const Color soil = WithStones(Soil(x, y, depth), x, y);
-      const double bare = SmoothStep(rootDepth - 1, rootDepth + 1, depth);
-      canvas.Blend(x, y, Mix(Turf(x, y, depth), soil, bare), depth + 0.5);
+  Canvas large(width * fine, height * fine);
+  for (int column = 0; column < width * fine; ++column) {
+    const double x = (column + 0.5) / fine;
+    const double edge = FarEdge(x);
+    for (int row = 0; row < height * fine; ++row) {
+      const double y = (row + 0.5) / fine;
+      const double depth = y - edge;
+      if (depth < -1) continue;
+      const Color color = Mix(MeadowColor(x, y, depth), TrackColor(x, y), TrackShare(x, y));
+      large.Blend(column, row, color, depth * fine + 0.5);
     }
   }
-  return canvas;
+  Brush brush(large, fine);
+  PlantBushes(brush);
+  return large.Reduced(fine);
 }
 
 Canvas PaintBenchGround() {

@@ -1,5 +1,6 @@
 #include "art/noise.h"
 #include "art/pictures.h"
+#include "art/relief.h"
 #include "art/shapes.h"
 
 namespace quintara::art {
@@ -57,15 +58,16 @@ class IconPainter {
   }
 
   void PaintPeak() {
-    const std::vector<Point> outline = {{-4, 28},  {3, 18},  {8.5, 7}, {10, 5.6},
-                                        {11.6, 7}, {18, 18}, {27, 28}};
+    const std::vector<Point> outline = {{-4, 28},    {3, 18},    {6.2, 10.6}, {8.5, 7},     {10, 5.6},
+                                        {11.3, 6.9}, {14, 12.1}, {18, 18},    {21.5, 21.3}, {27, 28}};
     const auto shade = [](Point p) {
       const double crest = 10 + 0.6 * Sine(p.y * 0.21) + 0.25 * (p.y - 6) * Noise(p.y * 0.35, 0.5, 91);
-      const bool lit = p.x > crest;
-      const double edge = 12.2 + 1.5 * std::fabs(Sine(p.x * 0.23)) + 0.8 * Noise(p.x, 2.5, 92);
-      if (p.y < edge) return lit ? Rgb(0xFFFCF0) : Rgb(0x9498DC);
-      const double grain = 1 + 0.12 * Noise(p.x * 0.8, p.y * 0.6, 93);
-      return Scaled(lit ? Mix(Rgb(0xD8A888), Rgb(0xB88C78), (p.y - 12) / 14) : Rgb(0x544C84), grain);
+      const double folds = RockLight(p.x + 0.35 * std::fabs(p.y - 6), p.y * 0.6, 7, 95) - 0.5;
+      const double light = Clamp01(SmoothStep(-0.5, 0.5, p.x - crest) + 0.55 * folds);
+      const double edge = 12.2 + 1.5 * std::fabs(Sine(p.x * 0.23)) + 0.8 * Noise(p.x, 2.5, 92) + 2 * folds;
+      const Color snow = Mix(Rgb(0x8488D4), Rgb(0xFFFCF0), light);
+      const Color rock = Mix(Rgb(0x483C74), Mix(Rgb(0xE8B894), Rgb(0xB88C78), (p.y - 12) / 14), light);
+      return Mix(snow, rock, SmoothStep(-0.1, 0.1, p.y - edge));
     };
     Part([&](Point p) { return PolygonDistance(p, outline); }, shade);
   }
@@ -85,27 +87,45 @@ class IconPainter {
     const int beads = size_ >= 48 ? 9 : 5;
     for (int i = 1; i <= beads; ++i) {
       const double t = static_cast<double>(i) / (beads + 1);
-      const Point at{Lerp(11, 28.5, t), 20 - 42 * t + 45 * t * t};
+      const Point at{Lerp(11, 26.8, t), 20 - 42 * t + 45 * t * t};
       const double radius = size_ >= 48 ? 0.62 : 0.85;
       Part([=](Point p) { return DiscDistance(p, at, radius + 0.3); }, Rgb(0x402008));
       Part([=](Point p) { return DiscDistance(p, at, radius); }, Rgb(0xFFE43C));
     }
-    const Point hit{28.2, 23.4};
+    const Point hit{26.4, 23.6};
     Part([=](Point p) { return EllipseDistance(p, hit, 2.9, 2.2) + (p.y > 24.4 ? 9 : 0); }, Rgb(0x580808));
     Part([=](Point p) { return EllipseDistance(p, hit, 2.3, 1.6) + (p.y > 23.9 ? 9 : 0); },
          [=](Point p) { return Mix(Rgb(0xB01010), Rgb(0xFF6040), Clamp01(0.4 + (p.x - hit.x) * 0.3)); });
   }
 
   void PaintMortarPiece() {
-    const auto iron = [](Point p) {
-      return Mix(Rgb(0x0C0C14), Rgb(0x5C6078), Clamp01((p.x - p.y + 16) / 11));
+    const Color black = Rgb(0x08080C);
+    const Point breech{5.8, 25.6};
+    const Point muzzle{11.2, 18.6};
+    // Iron is brightest a little inside the barrel's sunny edge.
+    const auto iron = [=](Point p) {
+      const double across = (0.79 * (p.x - breech.x) + 0.61 * (p.y - breech.y)) / 2.2;
+      return Mix(Rgb(0x10101C), Rgb(0xA0A8C8), Clamp01(0.85 - 1.3 * std::fabs(across - 0.35)));
     };
-    Part([](Point p) { return PolygonDistance(p, {{2.6, 28.2}, {4.6, 24}, {9.5, 24}, {11.8, 28.2}}); }, iron);
-    Part([](Point p) { return StrokeDistance(p, {5.8, 25.6}, {11.2, 18.6}, 2.4, 1.7); }, Rgb(0x08080C));
-    Part([](Point p) { return StrokeDistance(p, {6.3, 25.4}, {11.4, 18.9}, 1.4, 0.8); }, iron);
-    Part([](Point p) { return StrokeDistance(p, {9.9, 17.4}, {12.7, 19.5}, 0.85, 0.85); }, Rgb(0x14141C));
-    Part([](Point p) { return DiscDistance(p, {7, 27.4}, 1.9); }, Rgb(0x08080C));
-    Part([](Point p) { return DiscDistance(p, {7, 27.4}, 0.8); }, Rgb(0xC8A040));
+    const auto stand = [](Point p) { return Mix(Rgb(0x382414), Rgb(0xA07038), Clamp01((p.x - 4) / 8)); };
+    const auto trapezium = [](double margin) {
+      return [=](Point p) {
+        return PolygonDistance(p, {{2.6, 28.2}, {4.6, 24}, {9.5, 24}, {11.8, 28.2}}) - margin;
+      };
+    };
+    Part(trapezium(0.3), black);
+    Part(trapezium(-0.2), stand);
+    Part([=](Point p) { return StrokeDistance(p, breech, muzzle, 2.5, 1.8); }, black);
+    Part([=](Point p) { return StrokeDistance(p, breech, muzzle, 2.0, 1.35); }, iron);
+    Part([](Point p) { return StrokeDistance(p, {9.9, 17.4}, {12.7, 19.5}, 1.0, 1.0); }, black);
+    Part(
+        [](Point p) {
+          return StrokeDistance(p, {9.9, 17.4}, {12.7, 19.5}, 0.55, 0.55);
+        },
+        [](Point p) { return Mix(Rgb(0x20202C), Rgb(0xA8B0D0), Clamp01((p.x - 9.6) / 3)); });
+    Part([](Point p) { return DiscDistance(p, {7, 27.4}, 1.9); }, black);
+    Part([](Point p) { return std::fabs(DiscDistance(p, {7, 27.4}, 1.25)) - 0.28; }, Rgb(0x906030));
+    Part([](Point p) { return DiscDistance(p, {7, 27.4}, 0.6); }, Rgb(0xE0B048));
   }
 
   void PaintFrame() {

@@ -52,7 +52,7 @@ Color Rock(const Ground& ground) {
 Color Water(const Ground& ground, double middle) {
   const double ripple = Fractal(ground.place.x * 16, ground.place.y * 60, 3, 258);
   const Color deep = Mix(Rgb(0x7C9CC8), Rgb(0x38608C), middle);
-  return Mix(deep, Rgb(0xE8ECFC), Clamp01(0.12 + 0.55 * ripple));
+  return Mix(deep, Rgb(0xE8ECFC), Clamp01(0.15 + 0.38 * ripple));
 }
 
 // Snow lies higher on the far ranges, which are the taller ones, and stays longest out of the wind.
@@ -60,7 +60,7 @@ double Snow(const Ground& ground, double day) {
   const Point place = ground.place;
   const double ragged = Fractal(place.x * 4, place.y * 4, 5, 260);
   if (place.y < 10) {
-    return SmoothStep(-0.02, 0.03, ground.height - 0.74 + 0.16 * ragged + 0.05 * (day - 0.7));
+    return SmoothStep(-0.02, 0.03, ground.height - 0.76 + 0.24 * ragged - 0.10 * (day - 0.8));
   }
   const double line = 0.10 + 0.030 * place.y;
   return SmoothStep(-0.05, 0.12, ground.height - line + 0.25 * line * ragged);
@@ -100,7 +100,7 @@ Color LandColor(const Ground& ground) {
   Color lit = Tinted(color, Mix(Rgb(0x6C74B0), Rgb(0xFFF4DC), Clamp01(day)));
   lit = Scaled(lit, 0.62 + 0.42 * std::min(day, 1.5));
   const double snow = Snow(ground, day);
-  lit = Mix(lit, Mix(Rgb(0x9098D8), Rgb(0xFFFCF4), Clamp01(1.1 * day - 0.25)), snow);
+  lit = Mix(lit, Mix(Rgb(0x9098D8), Rgb(0xFFFCF4), SmoothStep(0.25, 1.3, day)), snow);
   return WithRiver(lit, ground);
 }
 

@@ -6,6 +6,7 @@
 #include "art/files.h"
 #include "art/pictures.h"
 #include "art/sounds.h"
+#include "art/track.h"
 
 namespace quintara::art {
 namespace {
@@ -47,10 +48,13 @@ void MakeData(const std::filesystem::path& folder) {
     WriteBmp(folder / "Graphics" / ("Profile" + std::to_string(slice) + ".bmp"),
              Plain(PaintRadarProfile(slice)));
   }
-  WriteWav(folder / "biggun.wav", HeavyGun());
-  WriteWav(folder / "bomb.wav", GroundBurst());
-  WriteWav(folder / "bombex~2.wav", TargetExplosion());
-  WriteWav(folder / "gong.wav", TempleGong());
+  const auto sound = [&](const std::string& name, const Samples& samples) {
+    WriteWav(folder / (name + ".wav"), samples, samplesPerSecond);
+  };
+  sound("biggun", HeavyGun());
+  sound("bomb", GroundBurst());
+  sound("bombex~2", TargetExplosion());
+  sound("gong", TempleGong());
 }
 
 }  // namespace

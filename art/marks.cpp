@@ -9,6 +9,11 @@ constexpr int fine = 4;  // Curved marks are painted this many times larger and 
 
 constexpr Color lemon = Rgb(0xFFE83C);
 constexpr Color gold = Rgb(0xE0A800);
+constexpr Color darkGold = Rgb(0x483400);
+
+// Columns of the shaft of the arrow at the scales' origin, which goes on from one picture to another.
+constexpr int shaftLeft = 2;
+constexpr int shaftRight = 5;
 
 Point Unscaled(Point p) {
   return {p.x / fine, p.y / fine};
@@ -52,28 +57,30 @@ Canvas PaintMortarTag() {
   return canvas;
 }
 
+// An arrow which rises from the picture of the mortar below and turns to the place where it stands: zero.
 Canvas PaintOriginMark() {
   Canvas large(14 * fine, 24 * fine);
-  std::vector<Point> bend = {{11, 5.2},   {8.6, 2.8}, {5, 3.0},    {2.9, 5.8},  {4.2, 9.4}, {7.2, 12},
-                             {9.8, 14.6}, {11, 18},   {9.2, 20.8}, {5.4, 21.3}, {2.8, 18.8}};
-  for (Point& p : bend) p = {p.x * fine, p.y * fine};
-  const std::vector<Point> curve = Smooth(bend, 6);
-  const auto stroke = [&](double halfWidth) {
-    return [&curve, halfWidth](Point p) { return PathDistance(p, curve) - halfWidth * fine; };
+  const auto arrow = [](double margin) {
+    return [margin](Point fineP) {
+      const Point p = Unscaled(fineP);
+      const double shaft = BoxDistance(p, {shaftLeft, 5}, {shaftRight, 40});
+      const double arm = BoxDistance(p, {shaftLeft, 5}, {9, 8});
+      const double head = PolygonDistance(p, {{7.6, 2.6}, {12.6, 6.5}, {7.6, 10.4}});
+      return (std::min({shaft, arm, head}) - margin) * fine;
+    };
   };
-  Paint(large, Whole(large), stroke(2.4), Rgb(0x5C4400));
-  const auto shade = [](Point p) { return Mix(lemon, gold, Clamp01(0.5 - (Unscaled(p).x - 7) / 14)); };
-  Paint(large, Whole(large), stroke(1.5), shade);
+  Paint(large, Whole(large), arrow(1), darkGold);
+  const auto shade = [](Point p) { return Mix(lemon, gold, Clamp01(Unscaled(p).y / 26)); };
+  Paint(large, Whole(large), arrow(0), shade);
   return large.Reduced(fine);
 }
 
+// The lowest piece of the arrow's shaft, which lies on the console.
 Canvas PaintStrip() {
   Canvas canvas(17, 4);
-  for (int x = 0; x < 17; ++x) {
-    canvas.Blend(x, 0, Rgb(0xFFF890), 1);
-    canvas.Blend(x, 1, lemon, 1);
-    canvas.Blend(x, 2, Mix(lemon, gold, 0.5), 1);
-    canvas.Blend(x, 3, Rgb(0x9C7400), 1);
+  for (int x = shaftLeft - 1; x <= shaftRight; ++x) {
+    const bool rim = x < shaftLeft || x >= shaftRight;
+    for (int y = 0; y < 4; ++y) canvas.Blend(x, y, rim ? darkGold : gold, 1);
   }
   return canvas;
 }

@@ -50,8 +50,9 @@ Canvas PaintMasters() {
   PaintCypress(brush, 737, 560, 372);
   PaintTemple(brush);
   PaintWreath(brush, {375, 469}, 42);
-  PaintBrazier(brush, {226, 516});
-  PaintBrazier(brush, {524, 516});
+  // On the second step, so that the list does not cover their fire.
+  PaintBrazier(brush, {226, 587});
+  PaintBrazier(brush, {524, 587});
   return large.Reduced(fine);
 }
 

@@ -1,5 +1,6 @@
 #include <array>
 
+#include "art/ground.h"
 #include "art/noise.h"
 #include "art/pictures.h"
 #include "art/shapes.h"
@@ -63,7 +64,9 @@ Color SlopeColor(double x, double y) {
   const double ledges = Noise(x * 0.012, y * 0.16 + 1.5 * Noise(x * 0.03, y * 0.03, 19), 20);
   Color rock = Mix(Rgb(0x443C64), Rgb(0xE4C09C), Clamp01(facing * 0.92 + 0.16 * grain));
   rock = Mix(rock, Mix(Rgb(0x54405C), Rgb(0xC08C74), facing), 0.5 * SmoothStep(0.0, 0.35, ledges));
-  const Color meadow = Mix(Rgb(0x2C4C40), Rgb(0xB0B45C), Clamp01(0.12 + 0.68 * facing + 0.28 * grain));
+  const double gentle = Lerp(facing, 0.55, 0.5 * SmoothStep(210, 280, y));
+  Color meadow = Mix(Rgb(0x38563C), Rgb(0xA8AC5C), Clamp01(0.12 + 0.66 * gentle + 0.28 * grain));
+  meadow = Mix(meadow, Scaled(meadowEdge, 1 + 0.12 * grain), SmoothStep(262, 287, y));
   const Color snow = Mix(Rgb(0x8488D0), Rgb(0xFFFCF4), SmoothStep(0.08, 0.62, facing));
   const double ragged = 46 * (Ribs(side, y) - 0.55) + 12 * grain;
   const Color slope = Mix(rock, meadow, SmoothStep(176, 204, y - 0.8 * ragged));

@@ -89,22 +89,23 @@ Canvas PaintShell() {
   return large.Reduced(fine);
 }
 
+// A dome of pale steel with a red band, which stands out from grass and earth alike.
 Canvas PaintTarget() {
   Canvas large(13 * fine, 6 * fine);
   const auto dome = [](double margin) {
     return [=](Point p) {
-      const Point at{p.x / fine, p.y / fine};
-      const double cap = EllipseDistance(at, {6.5, 5.6}, 5.6 + margin, 5.1 + margin);
-      return std::max(cap, at.y - 5.4 - margin) * fine;
+      const Point at = Unscaled(p);
+      const double cap = EllipseDistance(at, {6.5, 5.6}, 5.5 + margin, 5.1 + margin);
+      return std::max(cap, at.y - 5.2 - margin) * fine;
     };
   };
-  Paint(large, Whole(large), dome(0.6), Rgb(0x241C18));
+  Paint(large, Whole(large), dome(0.8), Rgb(0x100C10));
   const auto shade = [](Point p) {
-    const double x = (p.x / fine - 6.5) / 6;
-    const double y = (p.y / fine - 5.6) / 5;
-    const Color steel = Mix(Rgb(0x5C5850), Rgb(0xE8E0CC), Clamp01(0.35 + 0.45 * x - 0.45 * y));
-    const bool slit = p.y / fine > 3.4 && p.y / fine < 4.3 && std::fabs(x) < 0.55;
-    return slit ? Rgb(0x201008) : steel;
+    const double x = (Unscaled(p).x - 6.5) / 5.5;
+    const double y = (Unscaled(p).y - 5.6) / 5;
+    const double light = Clamp01(0.45 + 0.5 * x - 0.45 * y);
+    const bool band = Unscaled(p).y > 3.5 && Unscaled(p).y < 4.6;
+    return band ? Mix(Rgb(0x80080C), Rgb(0xF83020), light) : Mix(Rgb(0x8C8C98), Rgb(0xFFFFFF), light);
   };
   Paint(large, Whole(large), dome(0), shade);
   return large.Reduced(fine);
@@ -143,7 +144,9 @@ Canvas PaintMortar() {
   Paint(large, Whole(large), mound, soil);
   PaintCarriage(large);
   Canvas canvas = large.Reduced(fine);
-  DrawText(canvas, 19 - TextWidth("Mortar") / 2 + 1, 55, "Mortar", Rgb(0xFFFFFF));
+  const int left = 20 - TextWidth("Mortar") / 2;
+  DrawText(canvas, left + 1, 56, "Mortar", Rgb(0x302410));
+  DrawText(canvas, left, 55, "Mortar", Rgb(0xFFFFFF));
   return canvas;
 }
 

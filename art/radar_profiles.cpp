@@ -15,7 +15,7 @@ double LandHeight(double along) {
   const double gorge = -5 * (SmoothStep(0.40, 0.45, place) - SmoothStep(0.47, 0.52, place));
   const double hills = 8.5 * SmoothStep(0.52, 0.62, place) * (1 - 0.45 * SmoothStep(0.75, 0.95, place));
   const double rough = 9.0 * Ridged(along * 0.033, 0.5, 4, 61) + 3.8 * Fractal(along * 0.09, 7.5, 4, 62);
-  return 2.5 + massif + gorge + hills + rough * (1 - 0.4 * SmoothStep(0.6, 1, place));
+  return 2 + 1.4 * (massif + gorge + hills + rough * (1 - 0.4 * SmoothStep(0.6, 1, place)));
 }
 
 }  // namespace

@@ -20,8 +20,7 @@ void PaintRange(Canvas& canvas, int fine, const Range& range) {
     const double crest = CrestAt(range, x);
     for (int row = static_cast<int>(crest * fine) - 1; row < canvas.height(); ++row) {
       const double y = (row + 0.5) / fine;
-      const double light =
-          RockLight(x + 0.3 * (y - crest), y - 0.6 * crest, range.foldSize, 1.0, range.seed + 20);
+      const double light = RockLight(x + 0.3 * (y - crest), y - 0.6 * crest, range.foldSize, range.seed + 20);
       const double grain = 0.10 * Fractal(x * 0.35, y * 0.5, 2, range.seed + 30);
       Color color = Mix(range.shade, range.light, Clamp01(light + grain));
       const double cold = range.snowLine - y + 7 * (light - 0.5);

@@ -4,9 +4,9 @@
 
 namespace quintara::art {
 
-double RockLight(double x, double y, double size, double stretch, std::uint32_t seed) {
+double RockLight(double x, double y, double size, std::uint32_t seed) {
   const double u = x / size;
-  const double v = y / (size * stretch);
+  const double v = y / size;
   const double bend = 0.35 * Noise(u * 0.7, v * 0.7, seed + 50);
   const auto height = [&](double du, double dv) { return Ridged(u + du + bend, v + dv - bend, 5, seed); };
   const double step = 0.035;

@@ -9,9 +9,8 @@ namespace quintara::art {
 
 // All the pictures are lit by one low sun at the right.
 
-// Brightness in [0, 1] of folded rock at a place; size is the width in pixels of its largest folds and
-// stretch makes the folds longer than wide.
-double RockLight(double x, double y, double size, double stretch, std::uint32_t seed);
+// Brightness in [0, 1] of folded rock at a place; size is the width in pixels of its largest folds.
+double RockLight(double x, double y, double size, std::uint32_t seed);
 
 // A sky which is the views' pale blue at the top, warms toward the horizon and carries thin clouds between.
 Color SkyAt(double x, double y, double horizon, std::uint32_t seed);

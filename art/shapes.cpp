@@ -36,14 +36,6 @@ double PolygonDistance(Point p, const std::vector<Point>& corners) {
   return inside ? -nearest : nearest;
 }
 
-double PathDistance(Point p, const std::vector<Point>& path) {
-  double nearest = 1e9;
-  for (std::size_t i = 1; i < path.size(); ++i) {
-    nearest = std::min(nearest, StrokeDistance(p, path[i - 1], path[i], 0, 0));
-  }
-  return nearest;
-}
-
 std::vector<Point> Smooth(const std::vector<Point>& path, int steps) {
   std::vector<Point> curve;
   const auto at = [&path](std::size_t i) { return path[std::min(i, path.size() - 1)]; };

@@ -24,8 +24,6 @@ double BoxDistance(Point p, Point corner, Point opposite);
 // A straight stroke with round ends whose half thickness runs from startRadius to endRadius.
 double StrokeDistance(Point p, Point from, Point to, double startRadius, double endRadius);
 double PolygonDistance(Point p, const std::vector<Point>& corners);
-// The distance from the nearest place of an open line of strokes.
-double PathDistance(Point p, const std::vector<Point>& path);
 
 // Points of a smooth curve through the given ones.
 std::vector<Point> Smooth(const std::vector<Point>& path, int steps);

@@ -6,7 +6,8 @@
 
 namespace quintara::art {
 
-inline constexpr double sampleRate = 22050;
+inline constexpr int samplesPerSecond = 22050;
+inline constexpr double sampleRate = samplesPerSecond;
 
 // A fall of loudness to a thousandth within the given seconds, after a rise within a few of its own.
 class Envelope {

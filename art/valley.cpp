@@ -5,7 +5,6 @@
 namespace quintara::art {
 namespace {
 
-// Points of the ground hold x and, in y, the distance z.
 constexpr Point peak{-2.5356, 7.0};
 constexpr double peakHeight = 1.2256;
 constexpr double peakFoot = 2.3;
@@ -24,11 +23,12 @@ double PeakHeight(Point place) {
   const double cone = peakHeight * Square(1 - down);
   const double unitX = radius > 0 ? (place.x - peak.x) / radius : 0;
   const double unitZ = radius > 0 ? (place.y - peak.y) / radius : 0;
-  const double twist = 0.5 * Noise(place.x * 1.3, place.y * 1.3, 201);
-  const double ribs = Ridged(unitX * 1.9 + twist, unitZ * 1.9 + radius * 0.5, 4, 202) - 0.5;
-  const double crags = Ridged(place.x * 2.6, place.y * 2.6, 5, 203) - 0.45;
+  const double twist = 0.5 * Noise(place.x * 1.3, place.y * 1.3, 201) +
+                       0.16 * SmoothStep(0.1, 0.4, radius) * Fractal(place.x * 4.5, place.y * 4.5, 3, 204);
+  const double ribs = Ridged(unitX * 1.9 + twist, unitZ * 1.9 + radius * 0.9 + twist, 4, 202) - 0.5;
+  const double crags = Ridged(place.x * 3.4 + twist, place.y * 3.4, 5, 203) - 0.45;
   const double rough = SmoothStep(0.02, 0.5, radius) * (1 - SmoothStep(0.55, 1.0, down));
-  const double height = cone + rough * (0.20 * ribs + 0.11 * crags);
+  const double height = cone + rough * (0.15 * ribs + 0.15 * crags);
   const double away = Length(place.x - mortarLedge.x, place.y - mortarLedge.y);
   return Lerp(ledgeHeight, height, SmoothStep(0.05, 0.16, away));
 }

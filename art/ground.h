@@ -1,0 +1,13 @@
+#ifndef QUINTARA_ART_GROUND_H
+#define QUINTARA_ART_GROUND_H
+
+#include "art/canvas.h"
+
+namespace quintara::art {
+
+// Grass where the profile's meadow meets the mountain: both fade to it, so that no seam shows.
+inline constexpr Color meadowEdge = Rgb(0x7C9450);
+
+}  // namespace quintara::art
+
+#endif
