@@ -24,6 +24,9 @@ class DesktopPlatform final : public Platform {
   // Where forms are shown from now on. There is none yet while the program is built, nor any more at its end.
   void Attach(Session* session) { session_ = session; }
 
+  // False: a sound server that does not answer still holds up the sounds.
+  bool EndSounds() { return sounds_.End(); }
+
   std::string ProgramFolder() override { return programFolder_.toStdString(); }
   FileSystem& Disk() override { return disk_; }
 

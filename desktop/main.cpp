@@ -1,5 +1,6 @@
 #include <QtCore/QDir>
 
+#include <cstdlib>
 #include <string_view>
 
 #include "desktop/application.h"
@@ -41,5 +42,7 @@ int main(int argumentCount, char** arguments) {
     if (!program.scene().ended()) result = desktop::Application::exec();
     platform.Attach(nullptr);
   }
+  // A sound server that does not answer would hold up the end of Qt's libraries for ever.
+  if (!platform.EndSounds()) std::_Exit(result);
   return result;
 }

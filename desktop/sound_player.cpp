@@ -1,20 +1,100 @@
 #include "desktop/sound_player.h"
 
 #ifdef QUINTARA_SOUND
-#include <QtCore/QUrl>
-#include <QtMultimedia/QSoundEffect>
+#include <QtCore/QBuffer>
+#include <QtCore/QFile>
+#include <QtCore/QThread>
+#include <QtMultimedia/QAudioSink>
+#include <QtMultimedia/QMediaDevices>
+
+#include <memory>
+#include <optional>
+#include <utility>
+
+#include "desktop/wave_file.h"
 #endif
 
 namespace quintara::desktop {
 
-void SoundPlayer::Play([[maybe_unused]] const QString& path) {
 #ifdef QUINTARA_SOUND
-  // A fresh one each time: one that is used again may go on with its old file.
-  auto effect = std::make_unique<QSoundEffect>();
-  effect->setSource(QUrl::fromLocalFile(path));
-  effect->play();
-  playing_ = std::move(effect);
-#endif
+namespace {
+
+QAudioFormat FormatOf(const Wave& wave) {
+  QAudioFormat format;
+  format.setSampleRate(wave.samplesPerSecond);
+  format.setChannelCount(wave.channels);
+  format.setSampleFormat(wave.bitsPerSample == 8 ? QAudioFormat::UInt8 : QAudioFormat::Int16);
+  return format;
 }
+
+std::optional<Wave> ReadWaveFile(const QString& path) {
+  constexpr qint64 mostOfFile = 16 << 20;
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return std::nullopt;
+  const QByteArray bytes = file.read(mostOfFile);
+  return ReadWave({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+}
+
+thread_local bool isSoundThread = false;
+QtMessageHandler otherMessages = nullptr;
+
+// No player can do anything about what Qt's sound library says of a missing server, device or format.
+void DropMessagesOfSounds(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+  if (!isSoundThread) otherMessages(type, context, text);
+}
+
+}  // namespace
+
+// What lives in the thread of the sounds. Used there only.
+class SoundPlayer::Speaker final : public QObject {
+ public:
+  void Play(const QString& path) {
+    isSoundThread = true;
+    sink_.reset();
+    const auto wave = ReadWaveFile(path);
+    // The one that the player has chosen by now.
+    const QAudioDevice device = QMediaDevices::defaultAudioOutput();
+    if (!wave || device.isNull()) return;
+    samples_.close();
+    samples_.setData(wave->samples.data(), static_cast<int>(wave->samples.size()));
+    samples_.open(QIODevice::ReadOnly);
+    sink_ = std::make_unique<QAudioSink>(device, FormatOf(*wave));
+    sink_->start(&samples_);
+  }
+
+ private:
+  QBuffer samples_;
+  std::unique_ptr<QAudioSink> sink_;
+};
+
+bool SoundPlayer::End() {
+  if (thread_ == nullptr) return true;
+  thread_->quit();
+  constexpr unsigned long patience = 500;  // ms
+  if (!thread_->wait(patience)) return false;
+  delete std::exchange(thread_, nullptr);
+  return true;
+}
+
+void SoundPlayer::Play(const QString& path) {
+  if (thread_ == nullptr) Begin();
+  QMetaObject::invokeMethod(speaker_, [speaker = speaker_, path] { speaker->Play(path); });
+}
+
+void SoundPlayer::Begin() {
+  if (otherMessages == nullptr) otherMessages = qInstallMessageHandler(&DropMessagesOfSounds);
+  thread_ = new QThread;
+  speaker_ = new Speaker;
+  speaker_->moveToThread(thread_);
+  QObject::connect(thread_, &QThread::finished, speaker_, &QObject::deleteLater);
+  thread_->start();
+}
+#else
+bool SoundPlayer::End() {
+  return true;
+}
+
+void SoundPlayer::Play(const QString&) {}
+#endif
 
 }  // namespace quintara::desktop

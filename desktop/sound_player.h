@@ -1,20 +1,34 @@
 #pragma once
 
-#include <QtCore/QObject>
 #include <QtCore/QString>
 
-#include <memory>
+class QThread;
 
 namespace quintara::desktop {
 
-// Plays wave files, one at a time. A build without Qt Multimedia is silent.
+// Plays wave files, one at a time. It works in a thread of its own: a sound server that is slow to answer, or
+// never does, holds up no tick of the game. Where there is no device, or nothing in a file that can be
+// played, it is silent. So is a build without Qt Multimedia.
 class SoundPlayer {
  public:
+  SoundPlayer() = default;
+  ~SoundPlayer() { End(); }
+  SoundPlayer(const SoundPlayer&) = delete;
+  SoundPlayer& operator=(const SoundPlayer&) = delete;
+
   // Starts the file and returns; a sound that still plays is cut off.
   void Play(const QString& path);
 
+  // Ends the sound and its thread. False: the thread still waits for a sound server that does not answer.
+  bool End();
+
  private:
-  std::unique_ptr<QObject> playing_;
+  class Speaker;
+  void Begin();
+
+  // Both from the first sound on.
+  [[maybe_unused]] QThread* thread_ = nullptr;
+  [[maybe_unused]] Speaker* speaker_ = nullptr;
 };
 
 }  // namespace quintara::desktop

@@ -154,4 +154,5 @@ lay
 fire
 read_a_document
 leave
+[[ ! -s $scratch/said ]] || fail "the program had something to say"
 echo "all was as it should be, after $SECONDS seconds"

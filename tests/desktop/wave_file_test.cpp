@@ -1,0 +1,68 @@
+#include "desktop/wave_file.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+namespace quintara::desktop {
+namespace {
+
+std::string Contents(const std::string& name) {
+  std::ifstream file(std::filesystem::path(DATA) / name, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+TEST(WaveFileTest, TheShippedSoundsCanBePlayed) {
+  for (const char* name : {"biggun.wav", "bomb.wav", "bombex~2.wav", "gong.wav"}) {
+    const auto wave = ReadWave(Contents(name));
+    ASSERT_TRUE(wave) << name;
+    EXPECT_EQ(wave->samplesPerSecond, 22050) << name;
+    EXPECT_EQ(wave->channels, 1) << name;
+    EXPECT_EQ(wave->bitsPerSample, 16) << name;
+    EXPECT_GT(wave->samples.size(), 22050U) << name;
+  }
+}
+
+TEST(WaveFileTest, OfAFileCutOffTheSoundThatIsThereIsPlayed) {
+  const std::string whole = Contents("gong.wav");
+  const std::string samples = ReadWave(whole)->samples;
+  std::size_t playable = 0;
+  for (std::size_t length = 0; length < 300; ++length) {
+    const auto wave = ReadWave(whole.substr(0, length));
+    if (!wave) continue;
+    ++playable;
+    EXPECT_EQ(wave->samples.size() % 2, 0U);
+    EXPECT_EQ(wave->samples, samples.substr(0, wave->samples.size()));
+  }
+  EXPECT_EQ(playable, 300 - 44 - 2);
+}
+
+TEST(WaveFileTest, NoDamageToAHeaderIsTakenForASoundThatCanNotBePlayed) {
+  const std::string whole = Contents("gong.wav").substr(0, 400);
+  for (std::size_t at = 0; at < 44; ++at) {
+    for (int value = 0; value < 256; ++value) {
+      std::string damaged = whole;
+      damaged[at] = static_cast<char>(value);
+      const auto wave = ReadWave(damaged);
+      if (!wave) continue;
+      EXPECT_TRUE(wave->bitsPerSample == 8 || wave->bitsPerSample == 16);
+      EXPECT_TRUE(wave->channels == 1 || wave->channels == 2);
+      EXPECT_GE(wave->samplesPerSecond, 1000);
+      EXPECT_LE(wave->samplesPerSecond, 192'000);
+      EXPECT_LE(wave->samples.size(), whole.size());
+    }
+  }
+}
+
+TEST(WaveFileTest, OtherChunksMayStandBeforeTheSamples) {
+  const std::string whole = Contents("gong.wav");
+  const std::string note = std::string("LIST\3\0\0\0abc\0", 12);
+  const auto wave = ReadWave(whole.substr(0, 36) + note + whole.substr(36));
+  ASSERT_TRUE(wave);
+  EXPECT_EQ(wave->samples, ReadWave(whole)->samples);
+}
+
+}  // namespace
+}  // namespace quintara::desktop
