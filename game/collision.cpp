@@ -1,5 +1,6 @@
 #include "game/quintara.h"
 #include "scene/scene.h"
+#include "scene/trigonometry.h"
 
 namespace quintara {
 namespace {

@@ -1,6 +1,7 @@
 #include "physics/projectile.h"
 
 #include "scene/numbers.h"
+#include "scene/trigonometry.h"
 
 namespace quintara {
 

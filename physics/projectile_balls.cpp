@@ -4,6 +4,7 @@
 #include "physics/projectile.h"
 #include "scene/numbers.h"
 #include "scene/scene.h"
+#include "scene/trigonometry.h"
 
 namespace quintara {
 namespace {

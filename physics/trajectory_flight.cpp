@@ -3,6 +3,7 @@
 #include "physics/trajectory.h"
 #include "scene/numbers.h"
 #include "scene/scene.h"
+#include "scene/trigonometry.h"
 
 namespace quintara {
 namespace {

@@ -7,10 +7,6 @@
 namespace quintara {
 namespace {
 
-constexpr bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
-
 // A caption such as "750" or "0.003" is parsed at each ballistic step, so the plain cases take this short
 // way. Up to 15 digits and the power of ten that divides them are exact doubles; their quotient is the
 // correctly rounded value.

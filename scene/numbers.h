@@ -14,6 +14,10 @@
 
 namespace quintara {
 
+constexpr bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+
 // The leading number of a text, 0 if there is none. Blanks before and within the number are skipped; reading
 // stops at the first character that can't go on with it ("3x" is 3). Never fails: a number too large for a
 // double gives the largest double, one too small gives 0.
@@ -47,15 +51,6 @@ std::int32_t CLng(double x);
 
 inline double Sqr(double x) {
   return std::sqrt(x);
-}
-inline double Sin(double radians) {
-  return std::sin(radians);
-}
-inline double Cos(double radians) {
-  return std::cos(radians);
-}
-inline double Atn(double x) {
-  return std::atan(x);
 }
 
 // The shortest decimal that reads back to the same single, never with an exponent; minus zero is "0".

@@ -2,15 +2,14 @@
 
 #include <algorithm>
 
+#include "scene/numbers.h"
+
 namespace quintara {
 
 namespace {
 
 bool IsLetter(char c) {
   return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
 }
 
 // The value of a hexadecimal digit, -1 for anything else.

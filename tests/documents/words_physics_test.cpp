@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "scene/trigonometry.h"
 #include "tests/documents/words.h"
 
 namespace quintara::words {

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "scene/trigonometry.h"
 #include "tests/support/game.h"
 
 namespace quintara {
@@ -52,8 +53,8 @@ TEST_F(FiringTest, EachLineOfTheStepRoundsToSingle) {
   Click(form.Image7);
   const float dt = static_cast<float>(15 * 0.059);
   const float elevation = static_cast<float>(75 * 3.1416 / 180);
-  float vx = static_cast<float>(500.0 * std::cos(static_cast<double>(elevation)));
-  float vy = static_cast<float>(500.0 * std::sin(static_cast<double>(elevation)));
+  float vx = static_cast<float>(500.0 * Cos(static_cast<double>(elevation)));
+  float vy = static_cast<float>(500.0 * Sin(static_cast<double>(elevation)));
   float x = 0, y = 0, time = 0;
   for (int step = 0; step < 20; ++step) {
     const auto d = [](float f) { return static_cast<double>(f); };

@@ -18,29 +18,41 @@ std::string BytesOf(const fs::path& path) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-// A game of six hits that ends on the list of masters, and one of six misses straight after it, every chance
-// queued. The transcript holds each reply and the whole state at the end; renew it, after a change that is
-// meant, with quintara-host FOLDER <two_games.script >two_games.transcript, FOLDER being a fresh copy of the
-// data folder.
-TEST(TwoGames, ArePlayedToTheLastByte) {
-  TemporaryFolder folder;
-  fs::copy(fs::path(PROJECT_FOLDER) / "data" / "Graphics", folder.path() / "Graphics");
+// Plays NAME.script on a fresh data folder, every chance queued, and holds each line against NAME.transcript.
+// Renew that, after a change that is meant, with quintara-host FOLDER <NAME.script >NAME.transcript, FOLDER
+// being a fresh copy of the data folder.
+void ExpectTranscript(const fs::path& dataFolder, const std::string& name) {
+  const fs::path scripts = fs::path(PROJECT_FOLDER) / "tests" / "host";
+  fs::copy(fs::path(PROJECT_FOLDER) / "data" / "Graphics", dataFolder / "Graphics");
   std::ostringstream out;
-  HostPlatform platform{folder.path(), out};
+  HostPlatform platform{dataFolder, out};
   Program program{platform};
   Session session{program.scene(), platform, out, [&program] { program.Start(); }};
-  std::ifstream script(fs::path(PROJECT_FOLDER) / "tests" / "host" / "two_games.script");
+  std::ifstream script(scripts / (name + ".script"));
   session.Run(script);
 
   std::istringstream played(out.str());
-  std::istringstream kept(BytesOf(fs::path(PROJECT_FOLDER) / "tests" / "host" / "two_games.transcript"));
+  std::istringstream kept(BytesOf(scripts / (name + ".transcript")));
   std::string playedLine, keptLine;
   for (int line = 1; std::getline(kept, keptLine); ++line) {
     std::getline(played, playedLine);
     ASSERT_EQ(playedLine, keptLine) << "line " << line;
   }
   EXPECT_FALSE(std::getline(played, playedLine)) << "more was printed: " << playedLine;
+}
+
+// A game of six hits that ends on the list of masters, and one of six misses straight after it: each reply
+// and the whole state at the end.
+TEST(Transcripts, TwoGames) {
+  TemporaryFolder folder;
+  ExpectTranscript(folder.path(), "two_games");
   EXPECT_EQ(BytesOf(folder.path() / "Masters.txt"), "Ada Lovelace - Grand Master of Quintara\r\n");
+}
+
+// Flights with every elevation, many velocities, drags and time steps, and both demonstrations.
+TEST(Transcripts, GoldenFlights) {
+  TemporaryFolder folder;
+  ExpectTranscript(folder.path(), "golden_flights");
 }
 
 }  // namespace
