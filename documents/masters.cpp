@@ -67,8 +67,7 @@ void MastersForm::SaveList() {
     return;
   scene().TellFault(
       "The list of masters could not be saved in the file Masters.txt. The file was left as it is; the list "
-      "in this "
-      "window stays until the window is closed.");
+      "in this window stays until the window is closed.");
 }
 
 }  // namespace quintara

@@ -58,8 +58,7 @@ void QuintaraForm::mnuUninstall_Click() {
   constexpr std::int32_t okWithExclamation = 48;
   gMsgText =
       "To uninstall Quintara and all it's associated files from your computer, simply double click the "
-      "Add/Remove "
-      "Programs icon on Windows Control Panel, then select Quintara and click Add/Remove.";
+      "Add/Remove Programs icon on Windows Control Panel, then select Quintara and click Add/Remove.";
   gMsgResult = ToText(scene().MsgBox(gMsgText, okWithExclamation, "Uninstall Quintara"));
 }
 

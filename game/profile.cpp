@@ -8,8 +8,7 @@ void QuintaraForm::cmdMagnify_Click() {
   Image7.Enabled = false;
   Label4.Caption =
       " Adjust Muzzle Elevation Angle       and Muzzle Velocity. If Drag is       desired, click the OFF "
-      "button.        "
-      "Then, click the red Fire button.";
+      "button.        Then, click the red Fire button.";
   ShowPanels();
   ShowMaximumScore();
   // The setting of the last target. A record that is no number, or none in range, counts as the nearest
