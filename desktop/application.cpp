@@ -14,7 +14,8 @@ namespace {
 // The sizes that window frames, task bars and task switchers ask for.
 QIcon ProgramIcon() {
   QIcon icon;
-  for (const int size : {16, 24, 32, 48, 64}) icon.addFile(QString(":/pictures/icon_%1.png").arg(size));
+  for (const int size : {16, 24, 32, 48, 64})
+    icon.addPixmap(QPixmap(QString(":/pictures/icon_%1.png").arg(size), "PNG"));
   return icon;
 }
 

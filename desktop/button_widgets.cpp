@@ -22,10 +22,11 @@ namespace {
 
 // The font, or the next smaller size at which the caption isn't cut off.
 QFont FittingFont(const QFont& font, const QString& caption, int width) {
+  const qreal wanted = QFontMetricsF(font).horizontalAdvance(caption);
+  if (wanted <= width) return font;
   constexpr int smallest = 7;
   QFont fitting = font;
-  while (fitting.pixelSize() > smallest && QFontMetrics(fitting).horizontalAdvance(caption) > width)
-    fitting.setPixelSize(fitting.pixelSize() - 1);
+  fitting.setPixelSize(std::max(static_cast<int>(font.pixelSize() * width / wanted), smallest));
   return fitting;
 }
 

@@ -33,11 +33,13 @@ Control* MakeReadOut(Label& label, QWidget& parent, Session& session) {
 
 void Control::Follow(const Zoom& zoom) {
   FollowName();
+  // What is hidden is looked at when it shows.
+  if (!box_.IsVisible()) return Hide();
   const bool zoomed = std::exchange(zoom_, zoom) != zoom;
   if (!std::exchange(fresh_, false) && !zoomed && seen_ == box_.changes()) return;
   seen_ = box_.changes();
   const QRect place = zoom(ToPixels(box_.Surface()));
-  if (!box_.IsEnabled() || !box_.IsVisible()) static_cast<FormWindow*>(widget_.window())->DropFocus(widget_);
+  if (!box_.IsEnabled()) DropFocus();
   // A scroll area lays its bars out anew only where they tell it of their new breadth.
   if (zoomed) {
     for (QScrollBar* bar : widget_.findChildren<QScrollBar*>()) bar->updateGeometry();
@@ -45,7 +47,18 @@ void Control::Follow(const Zoom& zoom) {
   widget_.setGeometry(place);
   widget_.setEnabled(box_.IsEnabled());
   ShowLooks();
-  widget_.setVisible(box_.IsVisible());
+  widget_.show();
+}
+
+void Control::Hide() {
+  if (widget_.isHidden()) return;
+  DropFocus();
+  widget_.hide();
+  fresh_ = true;
+}
+
+void Control::DropFocus() {
+  static_cast<FormWindow*>(widget_.window())->DropFocus(widget_);
 }
 
 // The name also tells the value, which another control may show.

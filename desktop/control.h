@@ -37,6 +37,8 @@ class Control {
 
  private:
   void FollowName();
+  void Hide();
+  void DropFocus();
 
   Box& box_;
   QWidget& widget_;

@@ -62,7 +62,7 @@ struct FittedCaption {
   QStringList lines;
 };
 
-bool HasRoom(const QStringList& lines, const QFontMetricsF& metrics, const QSize& room) {
+bool HasRoom(const QStringList& lines, const QFontMetricsF& metrics, const QSizeF& room) {
   constexpr double partOfLineThatMayBeCut = 0.4;
   const auto linesShown = static_cast<int>(room.height() / metrics.height() + partOfLineThatMayBeCut);
   const auto isTooWide = [&](QString line) {
@@ -73,18 +73,21 @@ bool HasRoom(const QStringList& lines, const QFontMetricsF& metrics, const QSize
 }
 
 // The fonts of this machine may be a little wider than those that the forms were laid out for. A caption that
-// its label has no room for is set a little tighter, if that helps.
+// its label has no room for is set a little tighter, if that helps. To look a font up takes long, so a wider
+// room is tried instead of tighter letters.
 FittedCaption Fit(const QString& caption, const QFont& wanted, const QSize& room) {
-  FittedCaption fitted;
-  for (const int stretch : {100, 97, 94, 91, 88, 85}) {
-    QFont font = wanted;
-    font.setStretch(stretch);
-    const QFontMetricsF metrics(font);
-    const QStringList lines = CaptionLines(caption, metrics, room.width());
-    if (HasRoom(lines, metrics, room)) return {font, lines};
-    if (stretch == 100) fitted = {font, lines};
+  const QFontMetricsF metrics(wanted);
+  const QStringList natural = CaptionLines(caption, metrics, room.width());
+  if (HasRoom(natural, metrics, room)) return {wanted, natural};
+  for (const int stretch : {97, 94, 91, 88, 85}) {
+    const QSizeF wider(room.width() * 100.0 / stretch, room.height());
+    const QStringList lines = CaptionLines(caption, metrics, wider.width());
+    if (!HasRoom(lines, metrics, wider)) continue;
+    QFont tighter = wanted;
+    tighter.setStretch(stretch);
+    return {tighter, lines};
   }
-  return fitted;
+  return {wanted, natural};
 }
 
 // The share of the free room that lies before a line.

@@ -13,7 +13,7 @@ class PictureWidget final : public Surface, public Control {
 
   void Follow(const Zoom& shown) override {
     Control::Follow(shown);
-    FollowSurface(shown);
+    if (isVisibleTo(window())) FollowSurface(shown);
   }
 
  protected:

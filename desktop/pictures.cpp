@@ -1,25 +1,31 @@
 #include "desktop/pictures.h"
 
-#include <QtCore/QFile>
-#include <QtGui/QPixmapCache>
+#include <algorithm>
 
 #include "desktop/units.h"
 
 namespace quintara::desktop {
+namespace {
 
-Pictures::Pictures() {
-  // Room for every scaled picture of a window that fills a large screen.
-  constexpr int kilobytes = 128 * 1024;
-  QPixmapCache::setCacheLimit(kilobytes);
+constexpr const char* shownFirst = "landscape";
+
+// To tell the format keeps Qt from looking for it in all its plugins.
+QImage Decode(const QString& name) {
+  return QImage(QString(":/pictures/%1.png").arg(name), "PNG");
 }
+
+}  // namespace
+
+// By far the largest picture is on show from the start. It is decoded while the fonts are being looked up.
+Pictures::Pictures() : early_(std::async(std::launch::async, &Decode, QString(shownFirst))) {}
 
 const QPixmap& Pictures::Embedded(std::string_view name) {
   const QString key = ToQString(name);
   auto found = decoded_.find(key);
   if (found == decoded_.end()) {
-    const QString stem = ":/pictures/" + key;
-    const QString path = QFile::exists(stem + ".png") ? stem + ".png" : stem + ".bmp";
-    found = decoded_.insert(key, name.empty() ? QPixmap() : QPixmap(path));
+    const bool early = key == shownFirst && early_.valid();
+    const QImage picture = early ? early_.get() : name.empty() ? QImage() : Decode(key);
+    found = decoded_.insert(key, QPixmap::fromImage(picture));
   }
   return *found;
 }
@@ -27,13 +33,16 @@ const QPixmap& Pictures::Embedded(std::string_view name) {
 QPixmap Pictures::Scaled(std::string_view name, const QSize& size) {
   const QPixmap& picture = Embedded(name);
   if (picture.isNull() || size.isEmpty() || picture.size() == size) return picture;
-  const QString key = QString("%1 %2x%3").arg(ToQString(name)).arg(size.width()).arg(size.height());
-  QPixmap scaled;
-  if (!QPixmapCache::find(key, &scaled)) {
-    scaled = picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    QPixmapCache::insert(key, scaled);
+  QList<QPixmap>& known = scaled_[ToQString(name)];
+  const auto fits = [&](const QPixmap& scaled) { return scaled.size() == size; };
+  const auto found = std::find_if(known.begin(), known.end(), fits);
+  if (found != known.end()) {
+    std::rotate(known.begin(), found, found + 1);
+  } else {
+    if (known.size() == mostSizes) known.removeLast();
+    known.prepend(picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
   }
-  return scaled;
+  return known.front();
 }
 
 QPixmap Pictures::Shown(std::string_view name, const Zoom& zoom, qreal pixelRatio) {

@@ -1,10 +1,13 @@
 #pragma once
 
 #include <QtCore/QHash>
+#include <QtCore/QList>
 #include <QtCore/QSize>
 #include <QtCore/QString>
+#include <QtGui/QImage>
 #include <QtGui/QPixmap>
 
+#include <future>
 #include <string_view>
 
 #include "desktop/zoom.h"
@@ -24,7 +27,12 @@ class Pictures {
   QPixmap Shown(std::string_view name, const Zoom& zoom, qreal pixelRatio);
 
  private:
+  // As many as a window shows at a time. A target that grows has hundreds of sizes one after the other.
+  static constexpr qsizetype mostSizes = 6;
+
+  std::future<QImage> early_;
   QHash<QString, QPixmap> decoded_;
+  QHash<QString, QList<QPixmap>> scaled_;  // the one used last in front
 };
 
 }  // namespace quintara::desktop
