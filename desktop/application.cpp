@@ -1,5 +1,6 @@
 #include "desktop/application.h"
 
+#include <QtGui/QFontDatabase>
 #include <QtGui/QIcon>
 #include <QtWidgets/QMessageBox>
 
@@ -27,6 +28,9 @@ Application::Application(int& argumentCount, char** arguments) : QApplication(ar
   setQuitOnLastWindowClosed(false);
   SetUpAppearance();
   setWindowIcon(ProgramIcon());
+  // A message box could not say it.
+  if (QFontDatabase::families().isEmpty())
+    qWarning("Quintara: no font was found, so texts can't be read. Install one, such as Liberation Sans.");
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {

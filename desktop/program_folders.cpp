@@ -14,7 +14,7 @@ ProgramFolders FindFolders(const QString& executableFolder, const QString& insta
   const QString installed = QDir::cleanPath(executableFolder + '/' + installedData);
   // Even one that could be written to belongs to all players, and to whoever will remove the program.
   if (QFileInfo(installed).isDir()) return {installed, playersFolder};
-  return {beside, beside};
+  return {beside, playersFolder};
 }
 
 ProgramFolders FindFolders() {

@@ -12,7 +12,8 @@ struct ProgramFolders {
 
 // Beside the executable lies a data folder where it was built or unpacked, and all is kept in it; if it can't
 // be written to, what is written goes to the player's folder. Otherwise the program is installed for all:
-// `installedData` is the way to its data folder from that of the executable.
+// `installedData` is the way to its data folder from that of the executable. Where there is none at all, the
+// player's folder is written to.
 ProgramFolders FindFolders(const QString& executableFolder, const QString& installedData,
                            const QString& playersFolder);
 
