@@ -1,9 +1,11 @@
-// What a player waits for: a change of the laying with and without its plot, a tick of the flight, a whole
-// game. Each stands beside its floor, the nine lines of a step on plain numbers.
+// What a player waits for: a change of the laying with and without its plot, a tick of radar and flight, a
+// whole game, ten thousand of them. Each stands beside its floor: the nine lines of a step on plain numbers,
+// a plain read and write.
 
 #include <benchmark/benchmark.h>
 
 #include <cmath>
+#include <fstream>
 
 #include "bench/silent_platform.h"
 #include "program/program.h"
@@ -67,6 +69,77 @@ void BareLoop(benchmark::State& state) {
 }
 BENCHMARK(BareLoop)->ArgName("steps")->Arg(3749)->Arg(1499);
 
+constexpr int manyTimes = 1000;
+
+void ReadOfAPlainNumber(benchmark::State& state) {
+  float place = 1;
+  for (auto _ : state) {
+    for (int i = 0; i < manyTimes; ++i) {
+      benchmark::DoNotOptimize(place);
+      benchmark::DoNotOptimize(static_cast<double>(place));
+    }
+  }
+  state.SetItemsProcessed(state.iterations() * manyTimes);
+}
+BENCHMARK(ReadOfAPlainNumber);
+
+void ReadOfAProperty(benchmark::State& state) {
+  Game game;
+  const Coordinate& place = game.form.Shape1(0).Left;
+  for (auto _ : state) {
+    for (int i = 0; i < manyTimes; ++i) {
+      benchmark::ClobberMemory();
+      benchmark::DoNotOptimize(static_cast<double>(place));
+    }
+  }
+  state.SetItemsProcessed(state.iterations() * manyTimes);
+}
+BENCHMARK(ReadOfAProperty);
+
+void WriteOfAPlainNumber(benchmark::State& state) {
+  float place = 1;
+  for (auto _ : state) {
+    for (int i = 0; i < manyTimes; ++i) {
+      double fresh = i;
+      benchmark::DoNotOptimize(fresh);
+      place = static_cast<float>(fresh);
+      benchmark::DoNotOptimize(place);
+    }
+  }
+  state.SetItemsProcessed(state.iterations() * manyTimes);
+}
+BENCHMARK(WriteOfAPlainNumber);
+
+void WriteOfAProperty(benchmark::State& state) {
+  Game game;
+  Coordinate& place = game.form.Shape1(0).Left;
+  for (auto _ : state) {
+    for (int i = 0; i < manyTimes; ++i) {
+      double fresh = i;
+      benchmark::DoNotOptimize(fresh);
+      place = fresh;
+      benchmark::ClobberMemory();
+    }
+  }
+  state.SetItemsProcessed(state.iterations() * manyTimes);
+}
+BENCHMARK(WriteOfAProperty);
+
+void TickOfTheRadar(benchmark::State& state) {
+  Game game;
+  UserClicks(game.form.cmdSearch);
+  for (auto _ : state) {
+    if (!game.form.tmrBounce.Enabled && !game.form.tmrBounce2.Enabled) {
+      state.PauseTiming();
+      game.form.cmdSearch.Enabled = true;
+      UserClicks(game.form.cmdSearch);
+      state.ResumeTiming();
+    }
+    (game.form.tmrBounce.Enabled ? game.form.tmrBounce : game.form.tmrBounce2).Tick.Raise();
+  }
+}
+BENCHMARK(TickOfTheRadar);
+
 void ChangeOfLaying(benchmark::State& state) {
   Game game;
   game.OpenProfile();
@@ -129,20 +202,43 @@ void SliderOfTheSimulator(benchmark::State& state) {
 }
 BENCHMARK(SliderOfTheSimulator);
 
-// Search, laying, six flights and the Reset to the next game.
+// Search, laying, so many flights and the Reset to the next game.
+void PlayAGame(Game& game, int shells) {
+  game.OpenProfile();
+  for (int shell = 1; shell <= shells; ++shell) {
+    game.Lay(static_cast<std::int16_t>(40 + 5 * shell), 600);
+    game.Fire();
+  }
+  game.form.cmdReset.Enabled = true;
+  UserClicks(game.form.cmdReset);
+  game.Advance(1000);
+}
+
 void WholeGame(benchmark::State& state) {
   Game game;
+  for (auto _ : state) PlayAGame(game, static_cast<int>(state.range(0)));
+}
+BENCHMARK(WholeGame)->ArgName("shells")->DenseRange(1, 6)->Unit(benchmark::kMillisecond);
+
+double ResidentMegabytes() {
+  std::ifstream statm("/proc/self/statm");
+  double all = 0, resident = 0;
+  statm >> all >> resident;
+  constexpr double pagesInMegabyte = 256;
+  return resident / pagesInMegabyte;
+}
+
+void TenThousandGames(benchmark::State& state) {
+  Game game;
   for (auto _ : state) {
-    game.OpenProfile();
-    for (int shell = 1; shell <= 6; ++shell) {
-      game.Lay(static_cast<std::int16_t>(40 + 5 * shell), 600);
-      game.Fire();
-    }
-    UserClicks(game.form.cmdReset);
-    game.Advance(1000);
+    for (int i = 0; i < 100; ++i) PlayAGame(game, 6);
+    const double before = ResidentMegabytes();
+    for (int i = 100; i < 10'000; ++i) PlayAGame(game, 6);
+    state.counters["megabytes_after_100"] = before;
+    state.counters["megabytes_after_all"] = ResidentMegabytes();
   }
 }
-BENCHMARK(WholeGame)->Unit(benchmark::kMillisecond);
+BENCHMARK(TenThousandGames)->Iterations(1)->Unit(benchmark::kSecond);
 
 }  // namespace
 }  // namespace quintara

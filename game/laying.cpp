@@ -9,8 +9,7 @@ constexpr std::string_view timeCaption = "Real time to impact            ";
 
 constexpr std::string_view bonusLayingText =
     " Adjust Muzzle Elevation Angle       and Muzzle Velocity, then click      the red FIRE button. Be sure "
-    "that   the "
-    "trajectory clears the mountain";
+    "that   the trajectory clears the mountain";
 
 }  // namespace
 
@@ -101,16 +100,19 @@ void QuintaraForm::Preview(double dt, PreviewOf previewed) {
   StartShell();
   gDt = dt;
   gStepCount = 1;
-  Single shown = -1;  // the caption is the same for many steps in a row
-  while (StepsRemain(gStepCount, gMuzzleVelocity)) {
-    ++gStepCount;
-    BallisticStep(Flight(), Val(Label15.Caption));
-    if (gPosY > 0 && Int(gFlightTime) != shown) {
-      shown = Int(gFlightTime);
-      if (previewed == PreviewOf::Laying) mImpactSeconds = shown;
-      ShowTimeToImpact(shown);
-    }
-    if (plots) PlotShell();
+  FlightValues flight(Flight());
+  const double k = Val(Label15.Caption);
+  Single lastAboveGround = -1;
+  const std::int16_t end = EndOfSteps(gMuzzleVelocity);
+  for (; gStepCount < end; ++gStepCount) {
+    BallisticStep(flight, k);
+    if (flight.y > 0) lastAboveGround = flight.time;
+    if (plots) PlotShell(flight.x, flight.y);
+  }
+  flight.StoreIn(Flight());
+  if (lastAboveGround >= 0) {
+    if (previewed == PreviewOf::Laying) mImpactSeconds = Int(lastAboveGround);
+    ShowTimeToImpact(lastAboveGround);
   }
   if (plots && gStepCount > 1) Label4.Caption = bonusLayingText;
 }
@@ -120,9 +122,9 @@ void QuintaraForm::ShowTimeToImpact(Single seconds) {
 }
 
 // Marks the two places where the shell's markers would stand.
-void QuintaraForm::PlotShell() {
-  Picture5.PSet(gPosX * 0.438, 9250 - gPosY * 0.55, QBColor(6));
-  Picture11.PSet(gPosX * 0.438 - 790, mProfileHeight + 640 - gPosY * 0.55, QBColor(6));
+void QuintaraForm::PlotShell(Single x, Single y) {
+  Picture5.PSet(x * 0.438, 9250 - y * 0.55, QBColor(6));
+  Picture11.PSet(x * 0.438 - 790, mProfileHeight + 640 - y * 0.55, QBColor(6));
 }
 
 // Only the caption: the new setting counts from the next preview or flight step on.

@@ -56,8 +56,7 @@ void QuintaraForm::StoreFlightTimeSetting() {
   if (scene().files().WriteRecord(gAppPath + "extra.txt", 5, ToText(HScroll1.Value))) return;
   scene().TellFault(
       "The flight time setting could not be saved in the file extra.txt. The file was left as it is, and the "
-      "game goes "
-      "on.");
+      "game goes on.");
 }
 
 }  // namespace quintara

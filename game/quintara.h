@@ -90,7 +90,7 @@ class QuintaraForm : public QuintaraControls, public Module1 {
   void ClearProfileForPlot();
   void Preview(double dt, PreviewOf previewed);
   void ShowTimeToImpact(Single seconds);
-  void PlotShell();
+  void PlotShell(Single x, Single y);
   void TurnDragOn();
   void TurnDragOff();
   void PrepareBonusShot();

@@ -40,13 +40,12 @@ class TrajectoryForm : public TrajectoryControls {
   void SetUpChart();
   void StartFlight(double dt);
   void StartEventTimer();
-  bool FlightGoesOn() const { return StepsRemain(mStepCount, mTrajV0); }
   FlightVariables Flight() {
     return {mTrajDrag, mTrajAx, mTrajAy, mTrajVx, mTrajVy, mTrajSpeed, mTrajX, mTrajY, mTrajTime, mTrajDt};
   }
-  double ChartX() const { return mTrajX * 7.54 + 12000; }
-  double ChartY() const { return 45000 - mTrajY * 7.54; }
-  void PlotPoint() { PSet(ChartX(), ChartY()); }
+  static double ChartX(Single x) { return x * 7.54 + 12000; }
+  static double ChartY(Single y) { return 45000 - y * 7.54; }
+  void PlotPoint(Single x, Single y) { PSet(ChartX(x), ChartY(y)); }
   void ShowBall(bool visible);
   void LayProjectionLines();
   void ShowComponentReadOuts();

@@ -55,15 +55,18 @@ void TrajectoryForm::PlotFlight(double floor) {
   };
   std::optional<Point> lastAboveFloor;
   std::optional<Single> lastHeightRisen;
-  while (FlightGoesOn()) {
-    ++mStepCount;
-    BallisticStep(Flight(), Val(Label11.Caption));
-    if (mTrajY > floor) {
-      PlotPoint();
-      lastAboveFloor = {mTrajTime, mTrajX, mTrajSpeed};
+  FlightValues flight(Flight());
+  const double k = Val(Label11.Caption);
+  const std::int16_t end = EndOfSteps(mTrajV0);
+  for (; mStepCount < end; ++mStepCount) {
+    BallisticStep(flight, k);
+    if (flight.y > floor) {
+      PlotPoint(flight.x, flight.y);
+      lastAboveFloor = {flight.time, flight.x, flight.speed};
     }
-    if (mTrajVy > Single(0.01)) lastHeightRisen = mTrajY;
+    if (flight.vy > Single(0.01)) lastHeightRisen = flight.y;
   }
+  flight.StoreIn(Flight());
   if (lastAboveFloor) {
     Label29.Caption = Format(lastAboveFloor->time, Pattern::Whole);
     Label20.Caption = Format(lastAboveFloor->x, Pattern::Whole);
@@ -108,12 +111,12 @@ void TrajectoryForm::Slider1_Scroll() {
 
 // The step that passes the slider counts along the ground only: height and time are those of the one before.
 void TrajectoryForm::FlyToSlider() {
-  while (FlightGoesOn()) {
+  for (const std::int16_t end = EndOfSteps(mTrajV0); mStepCount < end;) {
     ++mStepCount;
     StepAlongGround(Flight(), Val(Label11.Caption));
     if (mTrajX > Slider1.Value * metresPerSliderPosition) return;
     StepUpwards(Flight());
-    if (mTrajY > 0) PlotPoint();
+    if (mTrajY > 0) PlotPoint(mTrajX, mTrajY);
   }
 }
 
@@ -127,7 +130,7 @@ void TrajectoryForm::ShowBallAtSlider() {
     picVector.Visible = true;
     // Not quite where a flight shows the ball: half its height to the left instead of half its width, and the
     // top 400 above the point.
-    Shape1.Left = ChartX() - Shape1.Height / 2;
+    Shape1.Left = ChartX(mTrajX) - Shape1.Height / 2;
     Shape1.Top = 44600 - mTrajY * 7.54;
   }
 }
@@ -171,8 +174,8 @@ void TrajectoryForm::Timer1_Timer() {
   }
   BallisticStep(Flight(), Val(Label11.Caption));
   // Half the width both ways: in chart units the ball's width is not its height.
-  Shape1.Left = ChartX() - Shape1.Width / 2;
-  Shape1.Top = ChartY() - Shape1.Width / 2;
+  Shape1.Left = ChartX(mTrajX) - Shape1.Width / 2;
+  Shape1.Top = ChartY(mTrajY) - Shape1.Width / 2;
   LayProjectionLines();
   ShowFlightReadOuts();
   DrawVectors();

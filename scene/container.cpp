@@ -35,8 +35,9 @@ void Container::PSet(double x, double y, Colour colour) {
   const double left = x * scale_.unitAcross;
   const double top = y * scale_.unitDown;
   const double reach = DrawWidth * twipsPerPixel / 2;
+  // Most of the marks that lie outside belong to a shell on its way down below the ground.
   const bool inside =
-      left + reach > 0 && left - reach < InnerWidth() && top + reach > 0 && top - reach < InnerHeight();
+      top - reach < InnerHeight() && top + reach > 0 && left - reach < InnerWidth() && left + reach > 0;
   if (inside) dots_.push_back({x, y, left, top, colour, DrawWidth});
 }
 
