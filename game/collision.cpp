@@ -71,7 +71,7 @@ void QuintaraForm::HitTarget() {
   Label23.Visible = false;
   if (mDragOn == 0) {
     Label17.Caption = ToText(Val(Label17.Caption) + 5);
-  } else if (mDragOn == 1) {
+  } else {
     Label17.Caption = ToText(Val(Label17.Caption) + 10);
     mDragOn = 0;
   }

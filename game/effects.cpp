@@ -85,7 +85,7 @@ void QuintaraForm::Burst(const BurstRule& rule) {
 void QuintaraForm::ChargeMiss() {
   if (mDragOn == 0) {
     Label23.Caption = ToText(Val(Label23.Caption) - 10);
-  } else if (mDragOn == 1) {
+  } else {
     Label23.Caption = ToText(Val(Label23.Caption) - 15);
     mDragOn = 0;
     cmdAdvanced.Enabled = true;

@@ -20,7 +20,7 @@ void QuintaraForm::cmdSound_Click() {
   if (gSoundOff == 0) {
     gSoundOff = 1;
     cmdSound.Caption = "Sound OFF";
-  } else if (gSoundOff == 1) {
+  } else {
     gSoundOff = 0;
     cmdSound.Caption = "Sound ON";
   }

@@ -101,7 +101,7 @@ void ProjectileForm::cmdStop_Click() {
     cmdStop.Caption = "Go";
     StopTimer();
     mBallsPaused = 1;
-  } else if (mBallsPaused == 1) {
+  } else {
     cmdStop.Caption = "Stop";
     tmrStart.Interval = 50;
     tmrStart.Enabled = true;

@@ -112,7 +112,7 @@ std::string PlainDecimals(double number, int significantDigits) {
   const std::size_t e = scientific.find('e');
 
   std::string digits(1, scientific[0]);
-  if (e > 2) digits += scientific.substr(2, e - 2);
+  digits += scientific.substr(2, e - 2);
   digits.erase(digits.find_last_not_of('0') + 1);
   int exponent = 0;
   const std::size_t sign = scientific[e + 1] == '+' ? 2 : 1;

@@ -35,7 +35,9 @@ TEST_F(DispatcherTest, TicksInRhythmWhicheverPropertyIsSetFirst) {
   form.Clock.Enabled = true;
   dispatcher.AdvanceTo(1000);
   EXPECT_EQ(ticks, Ticks{}) << "an interval of 0 is silent";
+  EXPECT_FALSE(dispatcher.NextDue().has_value());
   form.Clock.Interval = 400;
+  EXPECT_EQ(dispatcher.NextDue(), 1400);
   dispatcher.AdvanceTo(1900);
   EXPECT_EQ(ticks, (Ticks{"c1400", "c1800"}));
   form.Clock.Enabled = true;
@@ -153,9 +155,11 @@ TEST_F(DispatcherTest, NothingRunsAfterTheEnd) {
   bool finished = false;
   dispatcher.Run(form, [&] {
     scene.End();
+    scene.End();
     finished = true;
   });
   EXPECT_TRUE(finished) << "the handler that ends the program runs to its end";
+  EXPECT_FALSE(dispatcher.NextDue().has_value());
   dispatcher.AdvanceTo(100);
   dispatcher.Run(form, [&] { ticks.push_back("ran"); });
   EXPECT_TRUE(ticks.empty());

@@ -38,6 +38,7 @@ TEST_F(FormTest, UnloadingRestoresTheStartValuesAndKeepsTheFormsVariables) {
   form.Line1.Load(3);
   form.Ruler.X1 = 77;
   form.Names.AddItem("entry");
+  EXPECT_EQ(form.Names.List(0) + form.Names.List(-1) + form.Names.List(1), "entry");
   form.Document.TextRTF = "{\\rtf1 text}";
   form.Bar.Value = 3;
   form.Clock.Interval = 10;
@@ -127,6 +128,9 @@ TEST_F(FormTest, LoadedElementsAreHiddenCopiesInFrontOfTheirKind) {
   EXPECT_EQ(form.Label1(1).container(), &form.Picture1) << "it lies in the container of element 0";
   form.Line1.Load(1);
   EXPECT_EQ(&form.Line1(1), &line) << "an element that exists is left as it is";
+  const std::size_t objects = form.objects().size();
+  form.Line1.Load(-1);
+  EXPECT_EQ(form.objects().size(), objects);
   form.Line1.Unload(1);
   form.Line1.Unload(1);
   form.Line1.Unload(0);
@@ -152,6 +156,7 @@ TEST_F(FormTest, AChangeOfScaleMovesNothing) {
 
   form.ScaleHeight = 0;
   form.ScaleHeight = -1;
+  form.ScaleHeight = 1e300;
   form.ScaleMode = 2;
   EXPECT_EQ(form.ScaleHeight, 12000) << "scales that count nothing are not taken";
   form.Width = 0.0;
@@ -229,9 +234,11 @@ TEST_F(FormTest, APopupRunsTheChosenItem) {
   int clicks = 0;
   form.mnuItem.Click.Bind([&] { ++clicks; });
   form.mnuDivider.Click.Bind([&] { ++clicks; });
-  platform.menuAnswers = {"mnuItem", "mnuDivider"};
+  form.mnuOff.Click.Bind([&] { ++clicks; });
+  platform.menuAnswers = {"mnuItem", "mnuDivider", "mnuOff"};
   EXPECT_TRUE(form.PopupMenu(form.mnuTop, 10, 10));
   EXPECT_FALSE(form.PopupMenu(form.mnuTop, 10, 10)) << "a separator can't be chosen";
+  EXPECT_FALSE(form.PopupMenu(form.mnuTop, 10, 10)) << "nor an item that is off";
   EXPECT_FALSE(form.PopupMenu(form.mnuTop, 10, 10)) << "dismissed";
   EXPECT_EQ(clicks, 1);
 }

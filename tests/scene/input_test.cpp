@@ -72,7 +72,9 @@ TEST_F(InputTest, InputThatCameDuringAHandlerWaitsAndIsCheckedWhenItsTurnComes) 
     heard.push_back("begin");
     EXPECT_EQ(UserClicks(form.Open), InputResult::Done);
     UserClicks(form.Button);
+    UserMovesOnto(form.Push);
     form.Button.Enabled = false;
+    form.Push.Visible = false;
     heard.push_back("end");
   });
   UserClicks(form.Push);
@@ -117,6 +119,11 @@ TEST_F(InputTest, KeysArriveBeforeTheirEffectAndAreLostOnceTheBoxIsHidden) {
   EXPECT_EQ(texts, "|A|A\xC3\xA9|A\xC3\xA9\xF0\x9F\x98\x80|A\xC3\xA9\xF0\x9F\x98\x80|A\xC3\xA9|");
   EXPECT_EQ(form.Entry.Text, "A\xC3\xA9") << "8 takes away one character, not one byte";
   EXPECT_EQ(UserTypes(form.Entry, 'x'), InputResult::NoTarget);
+
+  form.Entry.Visible = true;
+  form.Entry.Text = "";
+  for (const int key : {8, 0x20AC, 127, 0xD800, 0xDFFF, 0x110000}) UserTypes(form.Entry, key);
+  EXPECT_EQ(form.Entry.Text, "\xE2\x82\xAC") << "an empty box, and what is no character";
 }
 
 TEST_F(InputTest, PastedLineBreaksBecomeBlanks) {

@@ -68,6 +68,7 @@ TEST(RichTextTest, ShowsCharactersAndEscapes) {
       {"one\\line two\\tab three\tfour", "one\ntwo\tthree\tfour"},
       {"one\\\r\ntwo\\\nthree", "one\ntwo\nthree"},
       {"\\b  x\\b0-y\\i-z", " x-y-z"},
+      {"\\page a\\page b\\sect\\column c", "a\nb\nc"},
       {"a\\'01\\'7f\\u7?b", "ab"},
       {"a\\v secret\\v0 b{\\v gone}c", "abc"},
       {"a\\bin4 }}{{b\\bin0 c\\bin-3 d", "abcd"},
@@ -189,6 +190,8 @@ TEST(RichTextTest, ShowsEachBulletOnce) {
       {numbering + "a\\par b\\par\\pard c\\par", "a\nb\nc", "110"},
       {"{\\listtext\\pard\\plain o\\tab}a\\par b", "a\nb", "10"},
       {"a\\par{\\listtext\\'B7\\tab}b", "a\nb", "01"},
+      {"{\\fonttbl{\\f1 Symbol;}{\\f2 Wingdings 2;}}{\\listtext\\f1 p\\tab}a\\par{\\listtext\\f2 p\\tab}b",
+       "a\nb", "11"},
       {"{\\pntext 1.\\tab}{\\*\\pn\\pnlvlbody\\pndec{\\pntxta.}}a\\par", "1.\ta", "0"},
       {"{" + numbering + "a\\par}b", "a\nb", "10"},
   };
@@ -206,6 +209,8 @@ TEST(RichTextTest, ShowsOtherFilesAsPlainText) {
   const TextCase cases[] = {
       {"", ""},
       {"one\r\ntwo\rthree\n\nfour\n", "one\ntwo\nthree\n\nfour"},
+      {"one\r", "one"},
+      {"\xE0\x80\x80", "\uFFFD\uFFFD\uFFFD"},
       {"{\\rt not it}", "{\\rt not it}"},
       {"\xEF\xBB\xBF"
        "café 😀",

@@ -47,6 +47,7 @@ class TrialForm : public Form {
   Menu mnuTop{*this, "mnuTop", {.caption = "Top", .visible = false}};
   Menu mnuItem{mnuTop, "mnuItem", {.caption = "Item"}};
   Menu mnuDivider{mnuTop, "mnuDivider", {.caption = "-", .enabled = false}};
+  Menu mnuOff{mnuTop, "mnuOff", {.caption = "Off", .enabled = false}};
 
   std::function<void()> onLoad, onQueryUnload;
   int loads = 0;
