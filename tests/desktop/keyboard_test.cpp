@@ -83,43 +83,30 @@ TEST_F(KeyboardTest, TheControlWithTheFocusIsMarked) {
 
 TEST_F(KeyboardTest, BarsGoTheWayOfTheKeysWhicheverEndIsTheLarger) {
   OpenProfile();
-  WidgetOf(main.VScroll1).setFocus();
-  Press(Qt::Key_Up);
-  EXPECT_EQ(main.VScroll1.Value, 339);
-  Press(Qt::Key_PageUp);
-  EXPECT_EQ(main.VScroll1.Value, 329);
-  Press(Qt::Key_Down);
-  EXPECT_EQ(main.VScroll1.Value, 330);
+  const auto press = [&](auto& bar, Qt::Key key, int value) {
+    WidgetOf(bar).setFocus();
+    Press(key);
+    EXPECT_EQ(bar.Value, value) << bar.name();
+  };
+  press(main.VScroll1, Qt::Key_Up, 339);
+  press(main.VScroll1, Qt::Key_PageUp, 329);
+  press(main.VScroll1, Qt::Key_Down, 330);
   EXPECT_EQ(main.Label1.Caption, "40") << "the handler ran";
-  WidgetOf(main.VScroll2).setFocus();
-  Press(Qt::Key_Up);
-  EXPECT_EQ(main.VScroll2.Value, 260);
-  Press(Qt::Key_Home);
-  EXPECT_EQ(main.VScroll2.Value, 750);
-  Press(Qt::Key_PageDown);
-  EXPECT_EQ(main.VScroll2.Value, 740);
-  WidgetOf(main.HScroll1).setFocus();
-  Press(Qt::Key_Left);
-  EXPECT_EQ(main.HScroll1.Value, 14);
-  Press(Qt::Key_PageUp);
-  EXPECT_EQ(main.HScroll1.Value, 13);
-  Press(Qt::Key_End);
-  EXPECT_EQ(main.HScroll1.Value, 15);
+  press(main.VScroll2, Qt::Key_Up, 260);
+  press(main.VScroll2, Qt::Key_Home, 750);
+  press(main.VScroll2, Qt::Key_PageDown, 740);
+  press(main.HScroll1, Qt::Key_Left, 14);
+  press(main.HScroll1, Qt::Key_PageUp, 13);
+  press(main.HScroll1, Qt::Key_End, 15);
 
   TrajectoryForm& trajectory = program.trajectory();
   Open(trajectory);
-  WidgetOf(trajectory.Slider1).setFocus();
   Do([&] { trajectory.Slider1.Value = 50; });
-  Press(Qt::Key_PageUp);
-  EXPECT_EQ(trajectory.Slider1.Value, 45);
-  Press(Qt::Key_Left);
-  Press(Qt::Key_Up);
-  EXPECT_EQ(trajectory.Slider1.Value, 43);
-  Press(Qt::Key_PageDown);
-  EXPECT_EQ(trajectory.Slider1.Value, 48);
-  WidgetOf(trajectory.HScroll1).setFocus();
-  Press(Qt::Key_Right);
-  EXPECT_EQ(trajectory.HScroll1.Value, 349);
+  press(trajectory.Slider1, Qt::Key_PageUp, 45);
+  press(trajectory.Slider1, Qt::Key_Left, 44);
+  press(trajectory.Slider1, Qt::Key_Up, 43);
+  press(trajectory.Slider1, Qt::Key_PageDown, 48);
+  press(trajectory.HScroll1, Qt::Key_Right, 349);
 }
 
 TEST_F(KeyboardTest, SpaceAndEnterPressWhatHasTheFocus) {

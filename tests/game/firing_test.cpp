@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <cmath>
-
-#include "scene/trigonometry.h"
 #include "tests/support/game.h"
 
 namespace quintara {
@@ -44,49 +41,6 @@ TEST_F(FiringTest, TheFirstTickOfAShell) {
   EXPECT_TRUE(form.Shape1(0).Visible && form.Shape1(1).Visible && form.Line8.Visible && form.Line9.Visible);
   EXPECT_EQ(form.Line8.X1, Single(form.Shape1(0).Left + 380));
   EXPECT_EQ(form.Line9.Y2, form.Shape1(0).Top);
-}
-
-TEST_F(FiringTest, EachLineOfTheStepRoundsToSingle) {
-  // The nine lines on plain numbers, each rounded by a store into a float.
-  Lay("75", "500");
-  form.Label15.Caption = "0.007";
-  Click(form.Image7);
-  const float dt = static_cast<float>(15 * 0.059);
-  const float elevation = static_cast<float>(75 * 3.1416 / 180);
-  float vx = static_cast<float>(500.0 * Cos(static_cast<double>(elevation)));
-  float vy = static_cast<float>(500.0 * Sin(static_cast<double>(elevation)));
-  float x = 0, y = 0, time = 0;
-  for (int step = 0; step < 20; ++step) {
-    const auto d = [](float f) { return static_cast<double>(f); };
-    const auto drag =
-        static_cast<float>(((0.007 * 0.001) * std::sqrt(d(vx) * d(vx) + d(vy) * d(vy))) * d(vx));
-    const auto ax = -drag;
-    const auto ay = static_cast<float>(-9.8 - d(drag));
-    vx = static_cast<float>(d(ax) * d(dt) + d(vx));
-    vy = static_cast<float>(d(ay) * d(dt) + d(vy));
-    x = static_cast<float>((d(vx) * d(dt) + d(x)) + d(dt) * d(dt) * (0.5 * d(ax)));
-    y = static_cast<float>((d(vy) * d(dt) + d(y)) + d(dt) * d(dt) * (0.5 * d(ay)));
-    time = static_cast<float>(d(time) + d(dt));
-    Advance(17);
-    ASSERT_EQ(form.gDragTerm.Stored(), drag) << step;
-    ASSERT_EQ(form.gVx.Stored(), vx) << step;
-    ASSERT_EQ(form.gVy.Stored(), vy) << step;
-    ASSERT_EQ(form.gPosX.Stored(), x) << step;
-    ASSERT_EQ(form.gPosY.Stored(), y) << step;
-    ASSERT_EQ(form.gFlightTime.Stored(), time) << step;
-  }
-}
-
-TEST_F(FiringTest, DragTakesTheSameTermOffBothAxes) {
-  form.gVx = 100.0;
-  form.gVy = 100.0;
-  form.gDt = 0.059;
-  const FlightVariables v{form.gDragTerm, form.gAx,   form.gAy,   form.gVx,         form.gVy,
-                          form.gSpeed,    form.gPosX, form.gPosY, form.gFlightTime, form.gDt};
-  BallisticStep(v, 0.01);
-  EXPECT_NEAR(form.gDragTerm, 0.1414, 0.0001);
-  EXPECT_NEAR(form.gAx, -0.1414, 0.0001);
-  EXPECT_NEAR(form.gAy, -9.9414, 0.0001);
 }
 
 TEST_F(FiringTest, TheFlashGoesAfter400Milliseconds) {

@@ -23,29 +23,6 @@ TEST_F(MainWindowTest, StartsInTheWaitingState) {
   EXPECT_EQ(form.mnuHelp.items().size(), 12u);
 }
 
-TEST_F(MainWindowTest, LoadLaysTheScopeGridAndTheShellMarks) {
-  Start();
-  for (std::int16_t i = 1; i <= 4; ++i) {
-    EXPECT_TRUE(form.Line1(i).Visible);
-    EXPECT_EQ(form.Line1(i).X2, 680);
-    EXPECT_TRUE(form.Shape6(i).Visible);
-    EXPECT_EQ(form.Shape6(i).Left, 2720);
-  }
-  const double rows[] = {60, 150, 240, 330, 420};
-  const double columns[] = {80, 170, 260, 350, 440, 530, 620};
-  const double marks[] = {700, 600, 465, 330, 195};
-  for (std::int16_t i = 0; i <= 4; ++i) {
-    EXPECT_EQ(form.Line1(i).Y1, rows[i]);
-    EXPECT_EQ(form.Line1(i).Y2, rows[i]);
-    EXPECT_EQ(form.Shape6(i).Top, marks[i]);
-  }
-  for (std::int16_t i = 0; i <= 6; ++i) {
-    EXPECT_EQ(form.Line7(i).X1, columns[i]);
-    EXPECT_EQ(form.Line7(i).X2, columns[i]);
-    EXPECT_EQ(form.Line7(i).Y2, 480);
-  }
-}
-
 TEST_F(MainWindowTest, DrawsTheFragmentWidths) {
   for (const double value : {0.0, 0.5, 0.999, 0.021, 0.0199}) chance.Queue(value);
   Start();
@@ -89,16 +66,6 @@ TEST_F(MainWindowTest, CancelEndsAtOnce) {
   Start();
   Click(form.cmdCancel);
   EXPECT_EQ(platform.log, std::vector<std::string>{"end"});
-}
-
-TEST_F(MainWindowTest, TwoGamesSideBySideShareNothing) {
-  RunningGame other;
-  Start();
-  other.Start();
-  form.HScroll1.Value = 3;
-  form.gSoundOff = 1;
-  EXPECT_EQ(other.form.HScroll1.Value, 15);
-  EXPECT_EQ(other.form.gSoundOff, 0);
 }
 
 }  // namespace

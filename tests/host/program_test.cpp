@@ -26,13 +26,6 @@ class ProgramTest : public ::testing::Test {
   Session session{program.scene(), platform, out, [this] { program.Start(); }};
 };
 
-TEST_F(ProgramTest, AShellIsFired) {
-  EXPECT_EQ(Say("start\nset Quintara.Picture8.Visible -1\nclick Quintara.Image7\nadvance 17\n"
-                "get Quintara.Shape1(0).Left"),
-            "! show Quintara\nok\nok\n! sound biggun.wav\nok\nok\n83.9243\nok\n");
-  EXPECT_TRUE(std::filesystem::exists(folder.path() / "extra.txt"));
-}
-
 TEST_F(ProgramTest, AMenuIsToldInTheNumbersOfTheProgram) {
   EXPECT_EQ(Say("answer menu mnuDivider"), "error: there is no menu item \"mnuDivider\"\n");
   EXPECT_EQ(Say("start\nclick Quintara.cmdHelp"),
@@ -64,12 +57,6 @@ TEST_F(ProgramTest, EveryObjectIsReachedByItsName) {
     const std::string name = line.substr(0, line.find(" = "));
     EXPECT_EQ(Say("get " + name), line.substr(name.size() + 3) + "\nok\n") << line;
   }
-}
-
-TEST_F(ProgramTest, ClosingTheMainFormEndsIt) {
-  Say("start");
-  EXPECT_TRUE(Say("close Quintara").ends_with("! unload Quintara\n! end\nok\n"));
-  EXPECT_TRUE(Say("time").starts_with("error: "));
 }
 
 TEST_F(ProgramTest, ThePlatform) {

@@ -1,3 +1,4 @@
+#include <iterator>
 #include <random>
 #include <vector>
 
@@ -17,6 +18,11 @@ int ClosingLines(const std::string& reply) {
   int count = 0;
   for (std::string line; std::getline(lines, line);) count += IsClosing(line) ? 1 : 0;
   return count;
+}
+
+std::vector<std::string> Words(const std::string& blankBetween) {
+  std::istringstream stream(blankBetween);
+  return {std::istream_iterator<std::string>(stream), {}};
 }
 
 TEST_F(SessionTest, WhatComesBeforeTheStart) {
@@ -70,45 +76,17 @@ TEST_F(SessionTest, RandomWordsAreAnsweredLineByLine) {
   Start();
   std::vector<std::string> names{"Trial", "Side", "Side.lblLog", "Nobody", "Trial.nobody(1)"};
   for (const Object* object : trial.objects()) names.push_back("Trial." + FullName(*object));
-  const std::vector<std::string> commands{
-      "get",    "set",   "set",    "set",    "click", "move", "scroll", "arrow", "trough", "type", "key",
-      "select", "close", "chance", "answer", "dots",  "dump", "time",   "start", "#",      "\"",   "Get"};
-  const std::vector<std::string> properties{
-      "Caption", "Left",      "Width",     "Visible",    "Picture",     "X1",          "Enabled", "BackColor",
-      "Value",   "Interval",  "Text",      "ListCount",  "List(1)",     "List(32767)", "TextRTF", "SelText",
-      "Loaded",  "DrawWidth", "ScaleMode", "ScaleWidth", "ScaleHeight", "Min",         "",        "Nothing"};
-  const std::vector<std::string> values{"0",
-                                        "-1",
-                                        "1",
-                                        "3",
-                                        "10",
-                                        "32767",
-                                        "32768",
-                                        "2147483647",
-                                        "-2147483648",
-                                        "0.5",
-                                        "1e38",
-                                        "1e39",
-                                        "nan",
-                                        "min",
-                                        "max",
-                                        "box",
-                                        "menu",
-                                        "-",
-                                        "mnuOne",
-                                        "mnuBreak",
-                                        "0x000000FF",
-                                        "0x",
-                                        "\"\"",
-                                        "\"ab\\n\"",
-                                        "\"",
-                                        "(",
-                                        ".",
-                                        "\\",
-                                        "\"\\q\"",
-                                        "\"{\\\\rtf1 {\"",
-                                        "\"\xFF\xC3\"",
-                                        "999"};
+  const auto commands = Words(
+      "get set set set click move scroll arrow trough type key select close chance "
+      "answer dots dump time start # \" Get");
+  const auto properties = Words(
+      "Caption Left Width Visible Picture X1 Enabled BackColor Value Interval Text "
+      "ListCount List(1) List(32767) TextRTF SelText Loaded DrawWidth ScaleMode "
+      "ScaleWidth ScaleHeight Min Nothing");
+  const auto values = Words(
+      "0 -1 1 3 10 32767 32768 2147483647 -2147483648 0.5 1e38 1e39 nan min max box menu "
+      "- mnuOne mnuBreak 0x000000FF 0x \"\" \"ab\\n\" \" ( . \\ \"\\q\" "
+      "\"{\\\\rtf1{\" \"\xFF\xC3\" 999");
   std::mt19937 random(21);
   const auto pick = [&random](const std::vector<std::string>& words) {
     return words[random() % words.size()];
