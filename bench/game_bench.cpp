@@ -5,8 +5,8 @@
 #include <benchmark/benchmark.h>
 
 #include <cmath>
-#include <fstream>
 
+#include "bench/resident_memory.h"
 #include "bench/silent_platform.h"
 #include "program/program.h"
 #include "scene/input.h"
@@ -39,6 +39,12 @@ struct Game {
   void Fire() {
     UserClicks(form.Image7);
     while (form.tmrShell.Enabled) Advance(17);
+  }
+  TrajectoryForm& OpenSimulator() {
+    TrajectoryForm& simulator = program.trajectory();
+    simulator.Show();
+    UserDragsTo(simulator.HScroll2, 300);
+    return simulator;
   }
 };
 
@@ -177,9 +183,7 @@ BENCHMARK(TickOfTheShell);
 // A change of the elevation at 300 m/s: 1499 steps, every dot above the floor on the chart.
 void ReplayOfTheSimulator(benchmark::State& state) {
   Game game;
-  TrajectoryForm& form = game.program.trajectory();
-  form.Show();
-  UserDragsTo(form.HScroll2, 300);
+  TrajectoryForm& form = game.OpenSimulator();
   std::int16_t elevation = 290;
   for (auto _ : state) {
     elevation = static_cast<std::int16_t>(581 - elevation);
@@ -191,9 +195,7 @@ BENCHMARK(ReplayOfTheSimulator);
 // Each step of the slider flies the shell to its distance again.
 void SliderOfTheSimulator(benchmark::State& state) {
   Game game;
-  TrajectoryForm& form = game.program.trajectory();
-  form.Show();
-  UserDragsTo(form.HScroll2, 300);
+  TrajectoryForm& form = game.OpenSimulator();
   std::int32_t position = 0;
   for (auto _ : state) {
     position = position == 100 ? 0 : position + 1;
@@ -219,14 +221,6 @@ void WholeGame(benchmark::State& state) {
   for (auto _ : state) PlayAGame(game, static_cast<int>(state.range(0)));
 }
 BENCHMARK(WholeGame)->ArgName("shells")->DenseRange(1, 6)->Unit(benchmark::kMillisecond);
-
-double ResidentMegabytes() {
-  std::ifstream statm("/proc/self/statm");
-  double all = 0, resident = 0;
-  statm >> all >> resident;
-  constexpr double pagesInMegabyte = 256;
-  return resident / pagesInMegabyte;
-}
 
 void TenThousandGames(benchmark::State& state) {
   Game game;

@@ -17,7 +17,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <ctime>
-#include <fstream>
 #include <functional>
 #include <random>
 #include <string>
@@ -25,6 +24,7 @@
 #include <utility>
 #include <vector>
 
+#include "bench/resident_memory.h"
 #include "desktop/application.h"
 #include "desktop/form_window.h"
 #include "desktop/session.h"
@@ -198,14 +198,6 @@ void FramesOfAFlight(benchmark::State& state) {
   state.counters["processor_percent"] = processor / seconds * 100;
 }
 BENCHMARK(FramesOfAFlight)->Iterations(3)->Unit(benchmark::kSecond);
-
-double ResidentMegabytes() {
-  std::ifstream statm("/proc/self/statm");
-  double all = 0, resident = 0;
-  statm >> all >> resident;
-  constexpr double pagesInMegabyte = 256;
-  return resident / pagesInMegabyte;
-}
 
 // Someone plays game after game and now and then reads a document or watches a demonstration.
 void PlayASecond(Game& game, std::mt19937& random) {
