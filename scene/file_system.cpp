@@ -31,30 +31,33 @@ FileSystem::Entry DiskFileSystem::Look(const fs::path& path) {
   std::error_code error;
   const fs::file_status status = fs::status(path, error);
   Entry entry;
-  entry.exists = fs::exists(status);
+  // What the disk fails to tell of may be a file that must not be lost.
+  entry.exists = status.type() != fs::file_type::not_found;
   entry.isFile = fs::is_regular_file(status);
   constexpr fs::perms anyWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
   entry.writable = (status.permissions() & anyWrite) != fs::perms::none;
-  if (entry.isFile) {
-    const std::uintmax_t size = fs::file_size(path, error);
-    entry.size = error ? 0 : size;
-  }
+  if (entry.isFile) entry.written = fs::last_write_time(path, error);
+  if (error) entry.isFile = false;
   return entry;
 }
 
 std::optional<std::string> DiskFileSystem::Read(const fs::path& path, std::uint64_t offset,
                                                 std::size_t most) {
   // Opening a pipe or a device could wait for ever.
-  const Entry entry = Look(path);
-  if (!entry.isFile) return std::nullopt;
+  if (!Look(path).isFile) return std::nullopt;
   std::ifstream file(path, std::ios::binary);
-  if (!file) return std::nullopt;
-  const std::uint64_t left = entry.size > offset ? entry.size - offset : 0;
-  std::string bytes(static_cast<std::size_t>(std::min<std::uint64_t>(most, left)), '\0');
-  file.seekg(static_cast<std::streamoff>(std::min(offset, entry.size)));
-  file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  if (!file.seekg(static_cast<std::streamoff>(offset))) return std::nullopt;
+  // To its end, not for the length that it had a moment ago: another copy of the program may have replaced
+  // it.
+  constexpr std::size_t piece = std::size_t{1} << 16;
+  std::string bytes;
+  while (file && bytes.size() < most) {
+    const std::size_t before = bytes.size();
+    bytes.resize(before + std::min(piece, most - before));
+    file.read(bytes.data() + before, static_cast<std::streamsize>(bytes.size() - before));
+    bytes.resize(before + static_cast<std::size_t>(file.gcount()));
+  }
   if (file.bad()) return std::nullopt;
-  bytes.resize(static_cast<std::size_t>(file.gcount()));
   return bytes;
 }
 
@@ -65,7 +68,9 @@ bool DiskFileSystem::Create(const fs::path& path, const std::string& bytes) {
   const bool flushed = std::fflush(file.get()) == 0;
   // A full disk may show only here.
   const bool closed = std::fclose(file.release()) == 0;
-  return written && flushed && closed;
+  if (written && flushed && closed) return true;
+  Remove(path);
+  return false;
 }
 
 bool DiskFileSystem::Replace(const fs::path& fresh, const fs::path& old) {

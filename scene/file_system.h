@@ -11,10 +11,10 @@ namespace quintara {
 class FileSystem {
  public:
   struct Entry {
-    bool exists = false;
-    bool isFile = false;    // a plain file, neither a folder nor a device
-    bool writable = false;  // no one has write-protected it
-    std::uint64_t size = 0;
+    bool exists = false;                        // also where the disk doesn't tell
+    bool isFile = false;                        // a plain file, neither a folder nor a device
+    bool writable = false;                      // no one has write-protected it
+    std::filesystem::file_time_type written{};  // when a file was last written, by the disk's own clock
   };
 
   virtual ~FileSystem() = default;
@@ -23,8 +23,8 @@ class FileSystem {
   // Up to `most` bytes from `offset` on, fewer at the end of the file; nothing where it can't be read.
   virtual std::optional<std::string> Read(const std::filesystem::path& path, std::uint64_t offset,
                                           std::size_t most) = 0;
-  // Creates a file that must not exist yet. False where any step up to the closing failed; a part may then
-  // lie there.
+  // Creates a file that must not exist yet. False where any step up to the closing failed; of what was
+  // written nothing is left, as far as it can be removed.
   virtual bool Create(const std::filesystem::path& path, const std::string& bytes) = 0;
   // Puts one file in the place of another in one step.
   virtual bool Replace(const std::filesystem::path& fresh, const std::filesystem::path& old) = 0;

@@ -1,6 +1,7 @@
 #include "scene/files.h"
 
 #include <algorithm>
+#include <chrono>
 
 namespace quintara {
 namespace {
@@ -15,6 +16,13 @@ std::int64_t LittleEndian(std::string_view bytes, std::size_t at) {
   for (std::size_t i = 0; i < 4; ++i)
     number |= std::uint32_t{static_cast<unsigned char>(bytes[at + i])} << (8 * i);
   return static_cast<std::int32_t>(number);
+}
+
+constexpr int mostNames = 10'000;
+// A name for what is written beside a file before it takes the file's place, from 0.
+std::filesystem::path Beside(std::filesystem::path path, int number) {
+  path += ".new" + std::to_string(number);
+  return path;
 }
 
 }  // namespace
@@ -85,26 +93,45 @@ bool Files::IsBitmap(std::string_view joined) const {
 }
 
 // Writes the bytes into a file beside the old one and then renames it over the old one, so that at any
-// moment, full disk and power cut included, the old or the new content lies there whole.
+// moment, on a full disk and where the program is killed, the old or the new content lies there whole.
 bool Files::ReplaceWhole(const std::filesystem::path& path, const std::string& bytes) const {
   const FileSystem::Entry entry = disk_.Look(path);
   if (entry.exists && !(entry.isFile && entry.writable)) return false;
-  constexpr int names = 10;
-  const auto beside = [&](int i) {
-    std::filesystem::path name = path;
-    name += ".new" + std::to_string(i);
-    return name;
-  };
-  // A name that is taken belongs to another copy of the program, or was left by one that was killed.
-  int free = 0;
-  while (free < names && disk_.Look(beside(free)).exists) ++free;
-  if (free == names) {
-    for (int i = 0; i < names; ++i) disk_.Remove(beside(i));
-    free = 0;
+  // Where it fails, another copy of the program may have taken the name this very moment.
+  int tries = 3;
+  for (int i = 0; i < mostNames && tries > 0; ++i) {
+    // A name that is taken belongs to another copy, or was left by one that was killed.
+    const std::filesystem::path fresh = Beside(path, i);
+    if (disk_.Look(fresh).exists) continue;
+    --tries;
+    if (!disk_.Create(fresh, bytes)) continue;
+    if (!disk_.Replace(fresh, path)) {
+      disk_.Remove(fresh);
+      return false;
+    }
+    RemoveLeftovers(path);
+    return true;
   }
-  if (disk_.Create(beside(free), bytes) && disk_.Replace(beside(free), path)) return true;
-  disk_.Remove(beside(free));
   return false;
+}
+
+// Removes what killed copies left beside a file that has just been saved. What is young may belong to a copy
+// that is saving now: robbed of its name, it might put in place what a third copy has half written there.
+void Files::RemoveLeftovers(const std::filesystem::path& path) const {
+  constexpr std::chrono::minutes longestSave(1);
+  constexpr int widestGap = 10;
+  const FileSystem::Entry saved = disk_.Look(path);
+  if (!saved.isFile) return;
+  std::vector<std::filesystem::path> leftovers;
+  for (int i = 0, gap = 0; i < mostNames && gap < widestGap; ++i) {
+    const FileSystem::Entry entry = disk_.Look(Beside(path, i));
+    gap = entry.exists ? 0 : gap + 1;
+    if (!entry.isFile) continue;
+    // All or none, and the last one first, so that no gap hides those behind it.
+    if (entry.written >= saved.written - longestSave) return;
+    leftovers.push_back(Beside(path, i));
+  }
+  for (auto leftover = leftovers.rbegin(); leftover != leftovers.rend(); ++leftover) disk_.Remove(*leftover);
 }
 
 }  // namespace quintara

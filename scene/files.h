@@ -55,6 +55,7 @@ class Files {
 
  private:
   bool ReplaceWhole(const std::filesystem::path& path, const std::string& bytes) const;
+  void RemoveLeftovers(const std::filesystem::path& path) const;
 
   FileSystem& disk_;
   std::string folder_;

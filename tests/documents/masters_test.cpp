@@ -110,29 +110,6 @@ TEST_F(MastersTest, WhatCannotBeReadIsNeverOverwritten) {
   EXPECT_EQ(fs::file_size(folder.path() / "Masters.txt"), std::uintmax_t{1} << 31);
 }
 
-TEST_F(MastersTest, AFullDiskKeepsTheOldListAndTellsThePlayer) {
-  class FullDisk : public DiskFileSystem {
-    bool Create(const fs::path& path, const std::string&) override {
-      return DiskFileSystem::Create(path, "ha") && false;
-    }
-  } full;
-  TemporaryFolder other;
-  RecordingPlatform outside(other.text());
-  outside.disk = &full;
-  Program game(outside);
-  game.Start();
-  std::ofstream(other.path() / "Masters.txt", std::ios::binary) << "one\r\n";
-  game.quintara().Label17.Caption = "50";
-  game.masters().Show();
-  game.masters().Picture1.Visible = true;
-  outside.log.clear();
-  UserTypes(game.masters().Text1, 13);
-  EXPECT_NE(outside.log[0].find("Masters.txt"), std::string::npos);
-  EXPECT_EQ(game.masters().List1.ListCount(), 2);
-  std::ifstream file(other.path() / "Masters.txt", std::ios::binary);
-  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), "one\r\n");
-}
-
 TEST_F(MastersTest, ALongListIsWrittenBackWhole) {
   std::string bytes;
   for (int i = 0; i < 400'000; ++i) bytes += "somebody - Master of Quintara\r\n";

@@ -25,7 +25,7 @@ class MemoryDisk : public FileSystem {
 
   Entry Look(const std::filesystem::path& path) override {
     const std::string* bytes = Find(path);
-    return bytes != nullptr ? Entry{true, true, true, bytes->size()} : Entry{};
+    return bytes != nullptr ? Entry{.exists = true, .isFile = true, .writable = true} : Entry{};
   }
 
   std::optional<std::string> Read(const std::filesystem::path& path, std::uint64_t offset,
@@ -36,9 +36,7 @@ class MemoryDisk : public FileSystem {
   }
 
   bool Create(const std::filesystem::path& path, const std::string& bytes) override {
-    if (Find(path) != nullptr) return false;
-    written[path.generic_string()] = full ? bytes.substr(0, bytes.size() / 2) : bytes;
-    return !full;
+    return !full && Find(path) == nullptr && written.emplace(path.generic_string(), bytes).second;
   }
 
   bool Replace(const std::filesystem::path& fresh, const std::filesystem::path& old) override {
