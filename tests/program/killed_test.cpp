@@ -117,7 +117,7 @@ TEST(KilledTest, AtAnyStep) {
   }
 }
 
-#ifdef __SANITIZE_ADDRESS__
+#ifdef SANITIZED
 constexpr int kills = 100;  // a copy of a process with so large a shadow takes its time
 #else
 constexpr int kills = 1000;

@@ -1,0 +1,163 @@
+// A day of play, twenty-four hours of the program's own time: nothing grows, nothing moves from its place.
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <map>
+#include <random>
+
+#include "fuzz/game_order.h"
+#include "fuzz/player.h"
+#include "fuzz/scene_order.h"
+#include "scene/input.h"
+
+#ifdef SANITIZED
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
+#elif defined(__linux__)
+#include <unistd.h>
+#endif
+
+namespace quintara::fuzz {
+namespace {
+
+// In bytes. Under the sanitizer what is freed stays resident for a while, so there what is in use is counted.
+std::size_t MemoryInUse() {
+#ifdef SANITIZED
+  return __sanitizer_get_current_allocated_bytes();
+#elif defined(__linux__)
+  std::size_t all = 0, resident = 0;
+  std::ifstream("/proc/self/statm") >> all >> resident;
+  return resident * static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+#else
+  return 0;
+#endif
+}
+
+// The places of a form and all that lies in it.
+std::vector<double> PlacesOf(const Form& form) {
+  std::vector<double> places = {form.Left.Get(), form.Top.Get(), form.Width.Get(), form.Height.Get()};
+  for (const Object* object : form.objects()) {
+    if (const auto* line = dynamic_cast<const Line*>(object)) {
+      places.insert(places.end(), {line->X1, line->Y1, line->X2, line->Y2});
+    } else if (const auto* box = dynamic_cast<const Box*>(object)) {
+      places.insert(places.end(), {box->Left, box->Top, box->Width, box->Height});
+    }
+  }
+  return places;
+}
+
+class CountingPlatform : public QuietPlatform {
+ public:
+  using QuietPlatform::QuietPlatform;
+  std::map<const Form*, int> closed;
+  void FormUnloaded(Form& form) override { ++closed[&form]; }
+};
+
+// A game that is played at random, mostly by opening and closing windows.
+class Day {
+ public:
+  Day() {
+    program_.Start();
+    // A button that ends the program would end the day.
+    program_.quintara().cmdCancel.Enabled = false;
+  }
+
+  void PlayUntil(std::int64_t time) {
+    Dispatcher& dispatcher = program_.scene().dispatcher();
+    for (int actions = 1; dispatcher.now() < time; ++actions) {
+      Act();
+      dispatcher.AdvanceTo(dispatcher.now() + 20 * Below(50));
+      ASSERT_FALSE(program_.scene().ended());
+      if (actions % 16 != 0) continue;
+      order_.RequireHolds();
+      RequireGameOrder(program_);
+    }
+  }
+
+  // Opens and closes the windows in haste, and puts the game back and the list away.
+  void ComeToRest() {
+    for (int i = 0; i < 50; ++i) {
+      for (Form* form : OtherForms()) form->Show();
+      for (Form* form : OtherForms()) form->Unload();
+    }
+    UserClicks(program_.quintara().cmdReset);
+    disk_.written.clear();
+    disk_.full = false;
+  }
+
+  // Of each window but the main one, freshly loaded, and again after it was counted in many other scales.
+  std::vector<std::vector<double>> Places() {
+    std::vector<std::vector<double>> places;
+    for (Form* form : OtherForms()) {
+      form->Touch();
+      places.push_back(PlacesOf(*form));
+      CountInOtherScales(*form);
+      places.push_back(PlacesOf(*form));
+      form->Unload();
+    }
+    return places;
+  }
+
+  std::vector<Form*> OtherForms() {
+    std::vector<Form*> others = program_.scene().forms();
+    std::erase(others, &program_.quintara());
+    return others;
+  }
+  int closed(const Form& form) { return platform_.closed[&form]; }
+
+ private:
+  void CountInOtherScales(Form& form) {
+    const Scale scale = form.scale();
+    for (int i = 0; i < 50; ++i) {
+      form.ScaleMode = 3;
+      form.ScaleWidth = 1 + Below(90000) * 0.37;
+      form.ScaleHeight = 1 + Below(90000) * 0.73;
+      form.ScaleMode = 1;
+    }
+    form.Rescale(scale);
+  }
+
+  int Below(int bound) { return static_cast<int>(random_() % static_cast<std::uint32_t>(bound)); }
+
+  void Act() {
+    const bool mainStandsAlone = program_.scene().loadedForms().size() == 1;
+    constexpr std::string_view often = "HHHHHCCCJJJKKKSMLFRZQB";
+    const int which = Below(40);
+    std::string bytes(4, '\0');
+    for (char& byte : bytes) byte = static_cast<char>(Below(256));
+    if (which < static_cast<int>(often.size())) bytes[0] = often[static_cast<std::size_t>(which)];
+    // So would closing the main window.
+    if (bytes[0] == 'C' && mainStandsAlone) bytes[0] = 'H';
+    bytes_ = Bytes(bytes);
+    player_.Act();
+  }
+
+  std::mt19937 random_{1};
+  MemoryDisk disk_{ShippedFiles()};
+  CountingPlatform platform_{disk_};
+  Program program_{platform_};
+  SceneOrder order_{program_.scene()};
+  Bytes bytes_{""};
+  Player player_{program_, disk_, platform_, bytes_};
+};
+
+TEST(EnduranceTest, ADayOfPlayLeavesNoTrace) {
+  constexpr std::int64_t hour = 3'600'000;
+  constexpr std::size_t margin = std::size_t{256} << 10;
+  constexpr int hoursOfWarmUp = 6;  // drawing layers keep the room that they once took
+  Day day;
+  const std::vector<std::vector<double>> places = day.Places();
+  std::size_t warm = 0;
+  for (int hours = 1; hours <= 24; ++hours) {
+    day.PlayUntil(hours * hour);
+    day.ComeToRest();
+    ASSERT_EQ(day.Places(), places) << "after " << hours << " hours";
+    const std::size_t inUse = MemoryInUse();
+    if (hours <= hoursOfWarmUp) warm = std::max(warm, inUse);
+    EXPECT_LE(inUse, warm + margin) << "after " << hours << " hours";
+  }
+  for (const Form* form : day.OtherForms()) EXPECT_GT(day.closed(*form), 1000) << form->name();
+}
+
+}  // namespace
+}  // namespace quintara::fuzz
