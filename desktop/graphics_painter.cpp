@@ -30,11 +30,6 @@ QPen PenFor(Colour colour, int width, BorderStyle style) {
   return pen;
 }
 
-QLine ToPixels(const Segment& ends) {
-  return {desktop::ToPixels(ends.x1), desktop::ToPixels(ends.y1), desktop::ToPixels(ends.x2),
-          desktop::ToPixels(ends.y2)};
-}
-
 QRect AreaOf(const Line& line) {
   const QLine ends = ToPixels(line.Surface());
   const int reach = line.looks().borderWidth / 2 + 2;
@@ -42,7 +37,7 @@ QRect AreaOf(const Line& line) {
 }
 
 QRect AreaOf(const Image& image, Pictures& pictures) {
-  const QRect place = desktop::ToPixels(image.Surface());
+  const QRect place = ToPixels(image.Surface());
   return image.looks().stretch ? place
                                : QRect(place.topLeft(), pictures.Embedded(image.looks().picture).size());
 }
@@ -97,7 +92,7 @@ double ShareBefore(Alignment alignment) {
 
 void Paint(QPainter& painter, const Label& label) {
   const LabelLooks& looks = label.looks();
-  const QRect place = desktop::ToPixels(label.Surface());
+  const QRect place = ToPixels(label.Surface());
   painter.setClipRect(place, Qt::IntersectClip);
   if (looks.backStyle == BackStyle::Opaque) painter.fillRect(place, ToQColor(label.BackColor));
   if (looks.framed) PaintFrame(painter, place);
@@ -130,7 +125,7 @@ void Paint(QPainter& painter, const Line& line) {
 void Paint(QPainter& painter, const Shape& shape) {
   const ShapeLooks& looks = shape.looks();
   const bool rectangle = looks.shape == ShapeKind::Rectangle;
-  QRectF place = desktop::ToPixels(shape.Surface());
+  QRectF place = ToPixels(shape.Surface());
   if (looks.shape == ShapeKind::Circle) {
     const qreal side = std::min(place.width(), place.height());
     place =
@@ -166,7 +161,7 @@ QRect PaintedArea(const Object& object, Pictures& pictures) {
   switch (object.kind()) {
     case Kind::Line: return AreaOf(static_cast<const Line&>(object));
     case Kind::Image: return AreaOf(static_cast<const Image&>(object), pictures);
-    default: return desktop::ToPixels(static_cast<const Box&>(object).Surface());
+    default: return ToPixels(static_cast<const Box&>(object).Surface());
   }
 }
 

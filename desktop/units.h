@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QLine>
 #include <QtCore/QPoint>
 #include <QtCore/QRect>
 #include <QtCore/QSize>
@@ -31,6 +32,10 @@ inline double ToTwips(int pixels) {
 inline QRect ToPixels(const Rectangle& twips) {
   return {ToPixels(twips.left), ToPixels(twips.top), std::max(ToPixels(twips.width), 0),
           std::max(ToPixels(twips.height), 0)};
+}
+
+inline QLine ToPixels(const Segment& twips) {
+  return {ToPixels(twips.x1), ToPixels(twips.y1), ToPixels(twips.x2), ToPixels(twips.y2)};
 }
 
 inline QString ToQString(std::string_view utf8) {

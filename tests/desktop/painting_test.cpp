@@ -125,18 +125,18 @@ TEST_F(PaintingTest, ACaptionWiderThanItsButtonIsDrawnSmaller) {
 TEST(CaptionLinesTest, BreaksWhereTheNextWordDoesNotFitAndKeepsTheBlanks) {
   const QFontMetricsF metrics(ToQFont(Font{}));
   const auto widthOf = [&](const char* text) { return metrics.horizontalAdvance(text) + 0.01; };
-  using Lines = QStringList;
-  EXPECT_EQ(CaptionLines("one two", metrics, widthOf("one two")), Lines({"one two"}));
-  EXPECT_EQ(CaptionLines("one two", metrics, widthOf("one tw")), Lines({"one", "two"}));
-  EXPECT_EQ(CaptionLines(" one       two", metrics, widthOf(" one     ")), Lines({" one", "  two"}))
+  using TextLines = QStringList;
+  EXPECT_EQ(CaptionLines("one two", metrics, widthOf("one two")), TextLines({"one two"}));
+  EXPECT_EQ(CaptionLines("one two", metrics, widthOf("one tw")), TextLines({"one", "two"}));
+  EXPECT_EQ(CaptionLines(" one       two", metrics, widthOf(" one     ")), TextLines({" one", "  two"}))
       << "blanks that don't fit begin the next line";
-  EXPECT_EQ(CaptionLines("one   two", metrics, widthOf("two")), Lines({"one", "two"}))
+  EXPECT_EQ(CaptionLines("one   two", metrics, widthOf("two")), TextLines({"one", "two"}))
       << "unless a word would not fit behind them";
-  EXPECT_EQ(CaptionLines("  one  two   ", metrics, 1000), Lines({"  one  two   "}));
-  EXPECT_EQ(CaptionLines("one two  ", metrics, widthOf("two")), Lines({"one", "two  "}));
-  EXPECT_EQ(CaptionLines("one two", metrics, 0), Lines({"one", "two"}))
+  EXPECT_EQ(CaptionLines("  one  two   ", metrics, 1000), TextLines({"  one  two   "}));
+  EXPECT_EQ(CaptionLines("one two  ", metrics, widthOf("two")), TextLines({"one", "two  "}));
+  EXPECT_EQ(CaptionLines("one two", metrics, 0), TextLines({"one", "two"}))
       << "a word that is too long stays whole";
-  EXPECT_EQ(CaptionLines("one\r\n\ntwo", metrics, 1000), Lines({"one", "", "two"}));
+  EXPECT_EQ(CaptionLines("one\r\n\ntwo", metrics, 1000), TextLines({"one", "", "two"}));
 }
 
 }  // namespace

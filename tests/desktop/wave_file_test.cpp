@@ -9,14 +9,14 @@
 namespace quintara::desktop {
 namespace {
 
-std::string Contents(const std::string& name) {
+std::string SoundFile(const std::string& name) {
   std::ifstream file(std::filesystem::path(DATA) / name, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
 TEST(WaveFileTest, TheShippedSoundsCanBePlayed) {
   for (const char* name : {"biggun.wav", "bomb.wav", "bombex~2.wav", "gong.wav"}) {
-    const auto wave = ReadWave(Contents(name));
+    const auto wave = ReadWave(SoundFile(name));
     ASSERT_TRUE(wave) << name;
     EXPECT_EQ(wave->samplesPerSecond, 22050) << name;
     EXPECT_EQ(wave->channels, 1) << name;
@@ -26,7 +26,7 @@ TEST(WaveFileTest, TheShippedSoundsCanBePlayed) {
 }
 
 TEST(WaveFileTest, OfAFileCutOffTheSoundThatIsThereIsPlayed) {
-  const std::string whole = Contents("gong.wav");
+  const std::string whole = SoundFile("gong.wav");
   const std::string samples = ReadWave(whole)->samples;
   std::size_t playable = 0;
   for (std::size_t length = 0; length < 300; ++length) {
@@ -40,7 +40,7 @@ TEST(WaveFileTest, OfAFileCutOffTheSoundThatIsThereIsPlayed) {
 }
 
 TEST(WaveFileTest, NoDamageToAHeaderIsTakenForASoundThatCanNotBePlayed) {
-  const std::string whole = Contents("gong.wav").substr(0, 400);
+  const std::string whole = SoundFile("gong.wav").substr(0, 400);
   for (std::size_t at = 0; at < 44; ++at) {
     for (int value = 0; value < 256; ++value) {
       std::string damaged = whole;
@@ -57,7 +57,7 @@ TEST(WaveFileTest, NoDamageToAHeaderIsTakenForASoundThatCanNotBePlayed) {
 }
 
 TEST(WaveFileTest, OtherChunksMayStandBeforeTheSamples) {
-  const std::string whole = Contents("gong.wav");
+  const std::string whole = SoundFile("gong.wav");
   const std::string note = std::string("LIST\3\0\0\0abc\0", 12);
   const auto wave = ReadWave(whole.substr(0, 36) + note + whole.substr(36));
   ASSERT_TRUE(wave);

@@ -19,18 +19,18 @@ void PrintTo(Point point, std::ostream* out) {
 }
 
 constexpr int steps = 500;
-constexpr double k = 0.005;
-constexpr Single velocity = 70.0;
+constexpr double dragConstant = 0.005;
+constexpr Single launchVelocity = 70.0;
 
 // The same lines on variables that no compiler may keep at hand.
 std::vector<Point> FlightThroughMemory() {
-  volatile float drag = 0, ax = 0, ay = 0, vx = velocity.Stored(), vy = velocity.Stored(), x = 0, y = 0,
-                 dt = 0.2F;
+  volatile float drag = 0, ax = 0, ay = 0, vx = launchVelocity.Stored(), vy = launchVelocity.Stored(), x = 0,
+                 y = 0, dt = 0.2F;
   const auto wide = [](volatile float& variable) { return static_cast<double>(variable); };
   const auto store = [](volatile float& variable, double value) { variable = static_cast<float>(value); };
   std::vector<Point> path;
   for (int step = 0; step < steps; ++step) {
-    store(drag, ((k * 0.001) * std::sqrt(wide(vx) * wide(vx) + wide(vy) * wide(vy))) * wide(vx));
+    store(drag, ((dragConstant * 0.001) * std::sqrt(wide(vx) * wide(vx) + wide(vy) * wide(vy))) * wide(vx));
     store(ax, -wide(drag));
     store(ay, -9.8 - wide(drag));
     store(vx, wide(ax) * wide(dt) + wide(vx));
@@ -52,7 +52,7 @@ void PlotPoint(Single x, Single y) {
 void FlyAtOnce(const FlightVariables& variables, double floor) {
   FlightValues flight(variables);
   for (int step = 0; step < steps; ++step) {
-    BallisticStep(flight, k);
+    BallisticStep(flight, dragConstant);
     if (flight.y > floor) PlotPoint(flight.x, flight.y);
   }
   flight.StoreIn(variables);
@@ -61,7 +61,7 @@ void FlyAtOnce(const FlightVariables& variables, double floor) {
 // A compiler that goes on with the double where the rounded single is stored spoils only flights of this
 // kind.
 TEST(BallisticStepTest, AFlightWorkedOutAtOnceIsRoundedAtEachStore) {
-  Single dragTerm, ax, ay, vx = velocity, vy = velocity, speed, x, y, time;
+  Single dragTerm, ax, ay, vx = launchVelocity, vy = launchVelocity, speed, x, y, time;
   const Single dt = 0.2;
   FlyAtOnce({dragTerm, ax, ay, vx, vy, speed, x, y, time, dt}, -1e9);
   EXPECT_EQ(plotted, FlightThroughMemory());
