@@ -3,28 +3,15 @@
 #include <algorithm>
 #include <string>
 
-#include "scene/form.h"
-#include "scene/platform.h"
+#include "scene/quiet_platform.h"
 
 namespace quintara {
 
-// A world outside in which nothing is heard or seen and no file is kept, so that only the program's work is
-// timed.
-class SilentPlatform : public Platform {
+// A quiet world that keeps no file either, so that only the program's work is timed.
+class SilentPlatform : public QuietPlatform {
  public:
   std::string ProgramFolder() override { return "/quintara"; }
   FileSystem& Disk() override { return disk_; }
-  double ScreenWidth() override { return 28800; }
-  double ScreenHeight() override { return 16200; }
-  std::uint64_t Seed() override { return ++seed_; }
-  void PlaySound(const DataFile&) override {}
-  void Beep() override {}
-  std::int32_t ShowMessageBox(const std::string&, std::int32_t, const std::string&) override { return 1; }
-  Menu* RunPopupMenu(Form&, Menu&, double, double) override { return nullptr; }
-  void PutOnClipboard(const std::string&) override {}
-  void FormShown(Form&) override {}
-  void FormUnloaded(Form&) override {}
-  void ProgramEnded() override {}
 
  private:
   // Keeps one record in memory, and shows a bitmap wherever one is asked for.
@@ -46,7 +33,6 @@ class SilentPlatform : public Platform {
   };
 
   MemoryDisk disk_;
-  std::uint64_t seed_ = 0;
 };
 
 }  // namespace quintara

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "scene/file_system.h"
-#include "scene/platform.h"
+#include "scene/quiet_platform.h"
 
 namespace quintara::desktop {
 
@@ -31,7 +31,7 @@ class TourDisk final : public FileSystem {
 
 // A world for a game that plays by itself: the windows are real, but nothing waits for a user, nothing
 // sounds, and no two runs differ.
-class TourPlatform final : public Platform {
+class TourPlatform final : public QuietPlatform {
  public:
   explicit TourPlatform(const QString& programFolder) : programFolder_(programFolder.toStdString()) {}
 
@@ -43,14 +43,8 @@ class TourPlatform final : public Platform {
 
   std::string ProgramFolder() override { return programFolder_; }
   FileSystem& Disk() override { return disk_; }
-  double ScreenWidth() override { return 28800; }
-  double ScreenHeight() override { return 16200; }
-  std::uint64_t Seed() override { return ++seed_; }
-  void PlaySound(const DataFile&) override {}
-  void Beep() override {}
   std::int32_t ShowMessageBox(const std::string& text, std::int32_t style, const std::string& title) override;
   Menu* RunPopupMenu(Form& form, Menu& menu, double x, double y) override;
-  void PutOnClipboard(const std::string&) override {}
   void FormShown(Form& form) override;
   void FormUnloaded(Form& form) override;
   void ProgramEnded() override;
@@ -61,7 +55,6 @@ class TourPlatform final : public Platform {
   Session* session_ = nullptr;
   Menu* chosen_ = nullptr;
   std::string boxText_;
-  std::uint64_t seed_ = 0;
 };
 
 }  // namespace quintara::desktop

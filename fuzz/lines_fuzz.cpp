@@ -2,8 +2,8 @@
 
 #include "documents/masters.h"
 
+#include "fuzz/answering_platform.h"
 #include "fuzz/bytes.h"
-#include "fuzz/quiet_platform.h"
 #include "fuzz/require.h"
 #include "program/program.h"
 #include "scene/input.h"
@@ -54,7 +54,7 @@ class Window {
 
  private:
   MemoryDisk disk_{ShippedFiles()};
-  QuietPlatform platform_{disk_};
+  AnsweringPlatform platform_{disk_};
   Program program_{platform_};
 };
 

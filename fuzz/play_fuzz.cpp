@@ -10,7 +10,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   constexpr std::int64_t mostTime = 120'000;
   Bytes bytes(AsText(data, size));
   quintara::MemoryDisk disk(ShippedFiles());
-  QuietPlatform platform(disk);
+  AnsweringPlatform platform(disk);
   quintara::Program program(platform);
   SceneOrder order(program.scene());
   program.Start();

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "fuzz/answering_platform.h"
 #include "fuzz/bytes.h"
-#include "fuzz/quiet_platform.h"
 #include "program/program.h"
 
 namespace quintara::fuzz {
@@ -11,7 +11,7 @@ namespace quintara::fuzz {
 class Player {
  public:
   // All must outlive the player.
-  Player(Program& program, MemoryDisk& disk, QuietPlatform& platform, Bytes& bytes)
+  Player(Program& program, MemoryDisk& disk, AnsweringPlatform& platform, Bytes& bytes)
       : program_(program), disk_(disk), platform_(platform), bytes_(bytes) {}
 
   // Takes one action off the input.
@@ -27,7 +27,7 @@ class Player {
 
   Program& program_;
   MemoryDisk& disk_;
-  QuietPlatform& platform_;
+  AnsweringPlatform& platform_;
   Bytes& bytes_;
 };
 

@@ -1,8 +1,8 @@
 // The record file and the heads of bitmaps. The first byte names a record, the next ten are its text, the
 // rest is what lies in the file before.
 
+#include "fuzz/answering_platform.h"
 #include "fuzz/bytes.h"
-#include "fuzz/quiet_platform.h"
 #include "fuzz/require.h"
 #include "program/program.h"
 #include "scene/input.h"
@@ -53,7 +53,7 @@ class Game {
   static constexpr std::size_t recordStart = 4 * Files::recordLength;
 
   MemoryDisk disk_{ShippedFiles()};
-  QuietPlatform platform_{disk_};
+  AnsweringPlatform platform_{disk_};
   Program program_{platform_};
 };
 

@@ -46,9 +46,9 @@ std::vector<double> PlacesOf(const Form& form) {
   return places;
 }
 
-class CountingPlatform : public QuietPlatform {
+class CountingPlatform : public AnsweringPlatform {
  public:
-  using QuietPlatform::QuietPlatform;
+  using AnsweringPlatform::AnsweringPlatform;
   std::map<const Form*, int> closed;
   void FormUnloaded(Form& form) override { ++closed[&form]; }
 };

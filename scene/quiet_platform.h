@@ -1,0 +1,27 @@
+#pragma once
+
+#include "scene/platform.h"
+
+namespace quintara {
+
+// A world outside in which nothing is heard or seen and nobody answers more than a box's OK, so that a run
+// depends on its input alone. What a platform has of its own it puts over this.
+class QuietPlatform : public Platform {
+ public:
+  double ScreenWidth() override { return 28800; }
+  double ScreenHeight() override { return 16200; }
+  std::uint64_t Seed() override { return ++seed_; }
+  void PlaySound(const DataFile&) override {}
+  void Beep() override {}
+  std::int32_t ShowMessageBox(const std::string&, std::int32_t, const std::string&) override { return 1; }
+  Menu* RunPopupMenu(Form&, Menu&, double, double) override { return nullptr; }
+  void PutOnClipboard(const std::string&) override {}
+  void FormShown(Form&) override {}
+  void FormUnloaded(Form&) override {}
+  void ProgramEnded() override {}
+
+ private:
+  std::uint64_t seed_ = 0;
+};
+
+}  // namespace quintara
