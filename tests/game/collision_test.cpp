@@ -23,14 +23,14 @@ class CollisionTest : public ::testing::Test, protected RunningGame {
 };
 
 TEST_F(CollisionTest, EachSegmentGuardsItsTriangle) {
-  struct Case {
+  const struct {
     const Line& segment;
     double x, y;  // just inside
     const Line& run;
-  };
-  const Case cases[] = {
-      {form.Line31, 1000, 0.35 * height, form.Line32}, {form.Line32, 1300, 0.15 * height, form.Line33},
-      {form.Line33, 1340, 0.15 * height, form.Line34}, {form.Line34, 1800, 0.4 * height, form.Line35},
+  } cases[] = {
+      {form.Line27, 599, 0.7 * height + 5, form.Line31},  // in the triangle of Line31, too: the earlier wins
+      {form.Line31, 1000, 0.35 * height, form.Line32},   {form.Line32, 1300, 0.15 * height, form.Line33},
+      {form.Line33, 1340, 0.15 * height, form.Line34},   {form.Line34, 1800, 0.4 * height, form.Line35},
       {form.Line35, 2790, 0.77 * height, form.Line35},
   };
   for (const auto& [segment, x, y, run] : cases) {
@@ -38,8 +38,7 @@ TEST_F(CollisionTest, EachSegmentGuardsItsTriangle) {
     form.Label21.Caption = "1";
     FireToProfile(x, y);
     EXPECT_TRUE(Burst()) << segment.name();
-    EXPECT_FALSE(form.tmrShell.Enabled) << segment.name();
-    EXPECT_FALSE(form.Shape1(1).Visible);
+    EXPECT_FALSE(form.tmrShell.Enabled || form.Shape1(1).Visible) << segment.name();
     // The fan's first ray is the normal of the slope, whose run is the next segment's.
     const double slope = std::atan((segment.Y1 - segment.Y2) / (run.X2 - run.X1));
     EXPECT_NEAR(form.Line28.X2, x, 0.1);
@@ -47,14 +46,6 @@ TEST_F(CollisionTest, EachSegmentGuardsItsTriangle) {
     EXPECT_NEAR(form.Line28.X1, form.Line28.X2 - 100 * std::cos(3.1416 / 2 - slope), 0.01) << segment.name();
     EXPECT_NEAR(form.Line28.Y1, form.Line28.Y2 - 100 * std::sin(3.1416 / 2 - slope), 0.01) << segment.name();
   }
-}
-
-TEST_F(CollisionTest, TheEarlierSegmentWinsWhereTwoOverlap) {
-  // Near the joint of Line27 and Line31 the point lies inside both triangles only within the joint's height.
-  FireToProfile(599, 0.7 * height + 5);
-  EXPECT_TRUE(Burst());
-  const double slope = std::atan((form.Line27.Y1 - form.Line27.Y2) / (form.Line31.X2 - form.Line31.X1));
-  EXPECT_NEAR(form.Line28.X1, form.Line28.X2 - 100 * std::cos(3.1416 / 2 - slope), 0.01);
 }
 
 TEST_F(CollisionTest, OutsideTheOutlineTheShellFliesOn) {
@@ -71,26 +62,11 @@ TEST_F(CollisionTest, TheFootIsComparedAcrossContainers) {
   EXPECT_TRUE(Burst()) << "up to 3460 of the view, not 4250";
   EXPECT_EQ(form.Line37.X2, Single(form.Shape1(0).Left + 37.5));
   EXPECT_EQ(form.Line37.Y2, Single(form.Shape1(0).Top + 37.5));
-  EXPECT_EQ(form.Line37.Y1, Single(form.Line37.Y2 - 100));
   platform.log.clear();
   FireTo(7816, 1200);
   FireTo(7800, 1230);
   FireTo(1790, 1100);
   EXPECT_FALSE(Burst());
-}
-
-TEST_F(CollisionTest, OnlyTheBandAroundTheTargetCounts) {
-  const double range = 22052.0;
-  FireTo(range - 395, -1);
-  EXPECT_EQ(form.Label17.Caption, "5");
-  FireTo(range + 195, -1);
-  EXPECT_EQ(form.Label17.Caption, "10");
-  form.tmrExplode.Enabled = false;
-  FireTo(range + 205, -1);
-  FireTo(range - 405, -1);
-  EXPECT_EQ(form.Label17.Caption, "10");
-  EXPECT_TRUE(Burst()) << "beyond 10000 m the ground takes it";
-  EXPECT_EQ(form.Line38.Y2, 9200);
 }
 
 TEST_F(CollisionTest, AShellThatEndsNowhereEndsSilently) {
@@ -99,20 +75,15 @@ TEST_F(CollisionTest, AShellThatEndsNowhereEndsSilently) {
   EXPECT_TRUE(form.tmrShell.Enabled) << "no test holds in this tick";
   const std::string maximum = form.Label23.Caption;
   Advance(17);
-  EXPECT_FALSE(form.tmrShell.Enabled);
-  EXPECT_EQ(form.tmrShell.Interval, 0);
-  EXPECT_TRUE(form.Shape1(0).Visible);
-  EXPECT_FALSE(Burst());
+  EXPECT_FALSE(form.tmrShell.Enabled || Burst());
+  EXPECT_TRUE(form.Shape1(0).Visible && form.Image7.Enabled);
   EXPECT_EQ(form.Label23.Caption.Get(), maximum);
   EXPECT_EQ(form.cmdAdvanced.Caption, "ON") << "drag stays on for the next shell";
-  EXPECT_TRUE(form.Image7.Enabled);
-}
 
-TEST_F(CollisionTest, TheLastTickMayStillBurst) {
   FireTo(9990, -1);
   form.gVx = 10000;
   Advance(17);
-  EXPECT_TRUE(Burst());
+  EXPECT_TRUE(Burst()) << "the last tick may still burst";
 }
 
 TEST_F(CollisionTest, APreviewInFlightSendsTheShellIntoTheGround) {
@@ -129,17 +100,13 @@ TEST_F(CollisionTest, APreviewInFlightSendsTheShellIntoTheGround) {
 TEST_F(CollisionTest, AHitSetsTheStage) {
   for (const double value : {0.0, 0.1, 0.5, 0.9, 0.999}) chance.Queue(value);
   FireTo(22052, -1);
-  EXPECT_FALSE(form.Label23.Visible);
-  EXPECT_FALSE(form.Line8.Visible || form.Line9.Visible || form.Label11.Visible || form.Image5.Visible);
-  EXPECT_TRUE(form.Image8.Visible);
-  EXPECT_EQ(form.Image8.Left, form.Image5.Left);
+  EXPECT_FALSE(form.Label23.Visible || form.Line8.Visible || form.Label11.Visible || form.Image5.Visible);
   EXPECT_FALSE(form.Image7.Enabled || form.tmrShell.Enabled);
-  EXPECT_TRUE(form.Shape1(0).Visible && form.Shape1(1).Visible);
+  EXPECT_TRUE(form.Image8.Visible && form.Shape1(0).Visible && form.Shape1(1).Visible);
   EXPECT_EQ(platform.log.back(), "sound bombex~2.wav");
   Advance(100);
   const double left = form.Image8.Left;
   EXPECT_EQ(form.shpExplode1.Left, Single(std::floor(left) + 5));
-  EXPECT_EQ(form.shpExplode2.Left, Single(std::floor(left + 30) + 5));
   EXPECT_EQ(form.shpExplode5.Left, Single(std::floor(left + Single(0.999) * 300) - 2.5));
   Advance(300);
   EXPECT_FALSE(form.Image8.Visible) << "the flames go after 400 ms";

@@ -32,49 +32,28 @@ TEST_F(LayingTest, AChangeArmsTheGunAndDrawsIt) {
   form.Line9.Visible = true;
   UserDragsTo(form.VScroll1, 310);
   EXPECT_EQ(form.Label1.Caption, "60");
-  EXPECT_TRUE(form.Image7.Enabled);
-  EXPECT_TRUE(form.Line24.Visible);
+  EXPECT_TRUE(form.Image7.Enabled && form.Line24.Visible);
   EXPECT_FALSE(form.Line8.Visible || form.Line9.Visible);
   EXPECT_NEAR(form.Line16.X1, 160, 0.01);
   EXPECT_NEAR(form.Line16.Y1, 443.4, 0.01);
-  EXPECT_NEAR(form.Line16.X2, 260, 0.01);
-  EXPECT_NEAR(form.Line16.Y2, 270.2, 0.01);
-  EXPECT_NEAR(form.Line12.X1, 310, 0.01);
   EXPECT_EQ(form.Line12.X2, form.Line16.X2);
   EXPECT_EQ(form.Line12.Y2, form.Line16.Y2);
-  EXPECT_NEAR(form.Line24.X2, 500, 0.01);
-  EXPECT_NEAR(form.Line24.Y2, 8334, 0.05);
-  EXPECT_EQ(form.Line24.Y1, 9195);
-  form.VScroll1.Value = 290;
-  EXPECT_EQ(form.Label1.Caption, "80");
-}
-
-TEST_F(LayingTest, TheVelocityGaugeStandsOnItsFoot) {
   UserDragsTo(form.VScroll2, 750);
   EXPECT_EQ(form.Label6.Caption, "750");
   EXPECT_EQ(form.Image6.Height, 830);
-  EXPECT_EQ(form.Image6.Top, 40);
-  UserDragsTo(form.VScroll2, 250);
-  EXPECT_EQ(form.Image6.Height, 330);
-  EXPECT_EQ(form.Image6.Top, 540);
+  EXPECT_EQ(form.Image6.Top, 40) << "the gauge stands on its foot";
 }
 
 TEST_F(LayingTest, ForetellsTheTimeToImpact) {
+  form.HScroll1.Value = 14;
+  EXPECT_EQ(form.Label31.Caption, TimeCaption("0")) << "the setting alone runs no preview";
   EXPECT_EQ(TimeOf(250, 30, 15), TimeCaption("23"));
+  form.HScroll1.Value = 1;
+  EXPECT_EQ(form.Label31.Caption, TimeCaption("23"));
   EXPECT_EQ(TimeOf(250, 30, 1), TimeCaption("25"));
-  EXPECT_EQ(TimeOf(500, 45, 8), TimeCaption("70"));
-  EXPECT_EQ(TimeOf(750, 80, 15), TimeCaption("148"));
   EXPECT_EQ(TimeOf(750, 80, 1), TimeCaption("150"));
   EXPECT_EQ(form.gStepCount, 3750);
   EXPECT_LT(form.gPosY, -10000) << "it flies on under ground to the last step";
-}
-
-TEST_F(LayingTest, TheSettingAloneRunsNoPreview) {
-  form.HScroll1.Value = 14;
-  EXPECT_EQ(form.Label31.Caption, TimeCaption("0")) << "no preview yet";
-  TimeOf(250, 30, 15);
-  form.HScroll1.Value = 1;
-  EXPECT_EQ(form.Label31.Caption, TimeCaption("23"));
 }
 
 TEST_F(LayingTest, AnImpossibleVelocityEndsToo) {
@@ -106,8 +85,6 @@ TEST_F(LayingTest, DragIsDrawnByChance) {
   Click(form.cmdAdvanced);
   EXPECT_EQ(form.Label15.Caption, "0.01");
   EXPECT_EQ(form.gDt, Single(0.059)) << "the finest step, whatever the setting";
-  const std::string withDrag = form.Label31.Caption;
-  EXPECT_LT(Val(withDrag.substr(31)), 70);
   form.HScroll1.Value = 14;
   EXPECT_EQ(form.Label31.Caption, TimeCaption(ToText(Single(69))))
       << "the setting shows the last laying's time";
@@ -129,15 +106,8 @@ TEST_F(LayingTest, TheBonusShotPlotsItsTrajectory) {
   EXPECT_EQ(form.ScaleHeight, 11100);
   EXPECT_EQ(form.Picture5.Surface().height, 9250) << "the view does not move with the form's new scale";
   EXPECT_EQ(form.Picture5.Height, Single(9250 * 11100 / 10695.0));
-  EXPECT_EQ(form.Label4.Caption,
-            " Adjust Muzzle Elevation Angle       and Muzzle Velocity, then click      the red FIRE button. "
-            "Be sure "
-            "that   the trajectory clears the mountain");
   ASSERT_FALSE(form.Picture5.dots().empty());
-  const Dot& first = form.Picture5.dots().front();
-  EXPECT_EQ(first.colour, QBColor(6));
-  EXPECT_EQ(first.width, 2);
-  EXPECT_NEAR(first.x, 500 * 0.866 * 0.885 * 0.438, 0.1);
+  EXPECT_NEAR(form.Picture5.dots().front().x, 500 * 0.866 * 0.885 * 0.438, 0.1);
   const std::size_t dots = form.Picture5.dots().size();
   UserDragsTo(form.VScroll1, 330);
   EXPECT_NE(form.Picture5.dots().size(), dots) << "each change wipes the dots of the last";
