@@ -30,15 +30,16 @@ class HelpTest : public ::testing::Test, protected RunningGame {
 TEST_F(HelpTest, EachTopicLaysTheWindowOutAnew) {
   const struct {
     const char *item, *caption, *text;
-    double left, top, width, height, textHeight, copyLeft, cancelLeft, cancelTop;
+    double left, top, height;
     bool demonstrations, placeNames;
   } rows[] = {
       // The main form stands at 6742.5, 2365 and is 15315 by 11070 twips large.
-      {"mnuScenario", "Scenario", "On Scenario.", 4742.5, 5535, 5830, 4250, 3285, 1300, 3575, 3400, false,
-       true},
-      {"mnuRules", "Rules", "On Rules.", 4792.5, 2085, 5730, 6900, 6030, 1260, 3495, 6100, false, false},
-      {"mnuPhysics", "Analysis", "On Analysis.", 6822.5, 2705, 6040, 9615, 8640, 1610, 3240, 8745, true,
-       false},
+      {"mnuIntro", "Introduction", "On Introduction.", 6822.5, 2705, 9615, false, false},
+      {"mnuScenario", "Scenario", "On Scenario.", 4742.5, 5535, 4250, false, true},
+      {"mnuRules", "Rules", "On Rules.", 4792.5, 2085, 6900, false, false},
+      {"mnuPhysics", "Analysis", "On Analysis.", 6822.5, 2705, 9615, true, false},
+      {"mnuCodeSegment", "Computer Code", "On Code.", 6822.5, 2705, 9615, false, false},
+      {"mnuPrint", "Print", "On Printing.", 4792.5, 3285, 4500, false, false},
   };
   for (const auto& row : rows) {
     Choose(row.item);
@@ -48,12 +49,7 @@ TEST_F(HelpTest, EachTopicLaysTheWindowOutAnew) {
     EXPECT_EQ(analysis.rtbMath.PlainText(), row.text);
     EXPECT_EQ(analysis.Left, row.left) << row.item;
     EXPECT_EQ(analysis.Top, row.top) << row.item;
-    EXPECT_EQ(analysis.Width, row.width);
-    EXPECT_EQ(analysis.Height, row.height);
-    EXPECT_EQ(analysis.rtbMath.Surface().height, row.textHeight) << "a unit of its scale stays a twip";
-    EXPECT_EQ(analysis.cmdCopy.Left, row.copyLeft);
-    EXPECT_EQ(analysis.cmdCancel.Left, row.cancelLeft);
-    EXPECT_EQ(analysis.cmdCancel.Top, row.cancelTop);
+    EXPECT_EQ(analysis.Height, row.height) << row.item;
     EXPECT_EQ(analysis.cmdTrajectory.Visible, row.demonstrations);
     EXPECT_EQ(analysis.cmdFreeFall.Visible, row.demonstrations);
     EXPECT_EQ(form.Label28.Visible, row.placeNames);
@@ -92,25 +88,23 @@ TEST_F(HelpTest, CancelClosesTheDemonstrationsAndTakesTheNamesAway) {
   Click(analysis.cmdCancel);
   EXPECT_EQ(platform.log, (Log{"unload Analysis", "unload frmTrajectory", "unload projectile"}));
   EXPECT_FALSE(form.Label28.Visible || form.Label29.Visible);
-  EXPECT_TRUE(analysis.loaded()) << "loaded again by the last touch, hidden";
-  EXPECT_FALSE(analysis.IsVisible());
-  EXPECT_EQ(analysis.rtbMath.PlainText(), "");
+  EXPECT_TRUE(analysis.loaded() && !analysis.IsVisible()) << "loaded again by the last touch, hidden";
   EXPECT_EQ(analysis.Caption, "Analysis of Quintara");
-  Choose("mnuRules");
-  EXPECT_FALSE(analysis.cmdCopy.Enabled);
-}
 
-TEST_F(HelpTest, TheFrameClosesTheDocumentAlone) {
   Choose("mnuScenario");
   program.projectile().Show();
   platform.log.clear();
   UserCloses(analysis);
-  EXPECT_EQ(platform.log, Log{"unload Analysis"});
+  EXPECT_EQ(platform.log, Log{"unload Analysis"}) << "the frame closes the document alone";
   EXPECT_TRUE(form.Label28.Visible);
 }
 
 TEST_F(HelpTest, AMissingDocumentIsNamedInItsBox) {
   fs::remove(folder.path() / "Help" / "Rules.rtf");
+  Choose("mnuReadme");
+  EXPECT_EQ(form.txtReadme.PlainText(), "Read me.");
+  Click(form.cmdCloseReadme);
+  EXPECT_FALSE(form.txtReadme.Visible || form.cmdCloseReadme.Visible);
   fs::remove(folder.path() / "Readme.rtf");
   fs::create_directory(folder.path() / "Readme.rtf");
   Choose("mnuRules");
@@ -120,20 +114,8 @@ TEST_F(HelpTest, AMissingDocumentIsNamedInItsBox) {
   EXPECT_EQ(form.txtReadme.PlainText(), "The document Readme.rtf could not be read.");
 }
 
-TEST_F(HelpTest, TheReadmeLiesOnTheLandscape) {
-  Choose("mnuReadme");
-  EXPECT_EQ(form.txtReadme.PlainText(), "Read me.");
-  EXPECT_EQ(form.txtReadme.Width, 8000);
-  EXPECT_EQ(form.txtReadme.Top, 400);
-  EXPECT_EQ(form.cmdCloseReadme.Left, 8000);
-  Click(form.cmdCloseReadme);
-  EXPECT_FALSE(form.txtReadme.Visible || form.cmdCloseReadme.Visible);
-}
-
 TEST_F(HelpTest, AboutAndUninstall) {
   Choose("mnuAbout");
-  EXPECT_EQ(program.about().Left, (28800.0 - 4395) / 2);
-  EXPECT_EQ(program.about().Top, (16200.0 - 1965) / 2);
   Click(program.about().cmdOK);
   EXPECT_FALSE(program.about().loaded());
   platform.log.clear();
