@@ -28,7 +28,9 @@ std::uint8_t PaletteByte(double value, int x, int y) {
 
 template <class Round>
 Bitmap Rounded(const Canvas& canvas, Round round) {
-  Bitmap bitmap{canvas.width(), canvas.height(), false, {}};
+  Bitmap bitmap;
+  bitmap.width = canvas.width();
+  bitmap.height = canvas.height();
   for (int y = 0; y < canvas.height(); ++y) {
     for (int x = 0; x < canvas.width(); ++x) {
       const Color color = canvas.ColorAt(x, y);
@@ -90,7 +92,9 @@ Bitmap Plain(const Canvas& canvas) {
 }
 
 Bitmap Dithered(const Canvas& canvas) {
-  return Rounded(canvas, PaletteByte);
+  Bitmap bitmap = Rounded(canvas, PaletteByte);
+  bitmap.dithered = true;
+  return bitmap;
 }
 
 }  // namespace quintara::art

@@ -1,5 +1,4 @@
-#ifndef QUINTARA_ART_CANVAS_H
-#define QUINTARA_ART_CANVAS_H
+#pragma once
 
 #include <cstddef>
 #include <cstdint>
@@ -68,6 +67,7 @@ struct Bitmap {
   int width = 0;
   int height = 0;
   bool transparent = false;
+  bool dithered = false;
   std::vector<std::uint8_t> bytes;
 };
 
@@ -78,5 +78,3 @@ Bitmap Plain(const Canvas& canvas);
 Bitmap Dithered(const Canvas& canvas);
 
 }  // namespace quintara::art
-
-#endif

@@ -1,12 +1,13 @@
 #include "art/files.h"
 
-#include <array>
-#include <cstdlib>
+#include <png.h>
+
+#include <csetjmp>
+#include <cstdio>
 #include <fstream>
+#include <memory>
 #include <stdexcept>
 #include <string_view>
-
-#include "art/deflate.h"
 
 namespace quintara::art {
 namespace {
@@ -21,10 +22,6 @@ void PutLittle(Bytes& out, std::uint32_t value, int count) {
   for (int i = 0; i < count; ++i) out.push_back(static_cast<std::uint8_t>(value >> 8 * i & 255));
 }
 
-void PutBig(Bytes& out, std::uint32_t value) {
-  for (int shift : {24, 16, 8, 0}) out.push_back(static_cast<std::uint8_t>(value >> shift & 255));
-}
-
 void Save(const std::filesystem::path& path, const Bytes& bytes) {
   std::filesystem::create_directories(path.parent_path());
   std::ofstream file(path, std::ios::binary);
@@ -33,109 +30,40 @@ void Save(const std::filesystem::path& path, const Bytes& bytes) {
   if (!file) throw std::runtime_error("cannot write " + path.string());
 }
 
-std::uint32_t Crc(const Bytes& bytes, std::size_t begin) {
-  std::uint32_t crc = ~0u;
-  for (std::size_t i = begin; i < bytes.size(); ++i) {
-    crc ^= bytes[i];
-    for (int bit = 0; bit < 8; ++bit) crc = crc >> 1 ^ (crc & 1 ? 0xEDB88320u : 0);
+// Nothing here needs a destructor, since the library leaves by longjmp where it fails.
+bool Encode(std::FILE* file, const Bitmap& bitmap) {
+  png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
+  if (png == nullptr) return false;
+  png_infop info = png_create_info_struct(png);
+  if (info == nullptr || setjmp(png_jmpbuf(png)) != 0) {
+    png_destroy_write_struct(&png, &info);
+    return false;
   }
-  return ~crc;
+  png_init_io(png, file);
+  png_set_compression_level(png, 9);
+  // A filter forecasts smooth surfaces. A grain it makes larger to store and slower to show.
+  png_set_filter(png, PNG_FILTER_TYPE_BASE, bitmap.dithered ? PNG_FILTER_NONE : PNG_ALL_FILTERS);
+  png_set_IHDR(png, info, static_cast<png_uint_32>(bitmap.width), static_cast<png_uint_32>(bitmap.height), 8,
+               bitmap.transparent ? PNG_COLOR_TYPE_RGB_ALPHA : PNG_COLOR_TYPE_RGB, PNG_INTERLACE_NONE,
+               PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
+  png_write_info(png, info);
+  if (!bitmap.transparent) png_set_filler(png, 0, PNG_FILLER_AFTER);
+  const std::size_t stride = static_cast<std::size_t>(bitmap.width) * 4;
+  for (int y = 0; y < bitmap.height; ++y)
+    png_write_row(png, &bitmap.bytes[static_cast<std::size_t>(y) * stride]);
+  png_write_end(png, nullptr);
+  png_destroy_write_struct(&png, &info);
+  return true;
 }
-
-void PutChunk(Bytes& out, std::string_view name, const Bytes& content) {
-  PutBig(out, static_cast<std::uint32_t>(content.size()));
-  const std::size_t begin = out.size();
-  PutText(out, name);
-  out.insert(out.end(), content.begin(), content.end());
-  PutBig(out, Crc(out, begin));
-}
-
-// What a PNG filter expects of a byte from those to the left, above and above left.
-int Forecast(int filter, int left, int above, int corner) {
-  if (filter == 1) return left;
-  if (filter == 2) return above;
-  if (filter == 3) return (left + above) / 2;
-  if (filter == 0) return 0;
-  const int byLeft = std::abs(above - corner);
-  const int byAbove = std::abs(left - corner);
-  const int byCorner = std::abs(left + above - 2 * corner);
-  if (byLeft <= byAbove && byLeft <= byCorner) return left;
-  return byAbove <= byCorner ? above : corner;
-}
-
-// The bytes of a picture row by row, each row behind the number of its filter.
-class PngRows {
- public:
-  explicit PngRows(const Bitmap& bitmap) : bitmap_(bitmap), channels_(bitmap.transparent ? 4 : 3) {}
-
-  int channels() const { return channels_; }
-
-  Bytes Unfiltered() const {
-    Bytes all;
-    for (int y = 0; y < bitmap_.height; ++y) Append(all, Filtered(y, 0));
-    return all;
-  }
-
-  Bytes Adaptive() const {
-    Bytes all;
-    for (int y = 0; y < bitmap_.height; ++y) {
-      Bytes best;
-      for (int filter = 0; filter < 5; ++filter) {
-        Bytes row = Filtered(y, filter);
-        if (best.empty() || Weight(row) < Weight(best)) best = std::move(row);
-      }
-      Append(all, best);
-    }
-    return all;
-  }
-
- private:
-  static void Append(Bytes& all, const Bytes& row) { all.insert(all.end(), row.begin(), row.end()); }
-
-  static int Weight(const Bytes& row) {
-    int sum = 0;
-    for (std::size_t i = 1; i < row.size(); ++i) sum += std::abs(static_cast<std::int8_t>(row[i]));
-    return sum;
-  }
-
-  int At(int x, int y, int channel) const {
-    if (x < 0 || y < 0) return 0;
-    return bitmap_.bytes[static_cast<std::size_t>((y * bitmap_.width + x) * 4 + channel)];
-  }
-
-  Bytes Filtered(int y, int filter) const {
-    Bytes row{static_cast<std::uint8_t>(filter)};
-    for (int x = 0; x < bitmap_.width; ++x) {
-      for (int c = 0; c < channels_; ++c) {
-        const int expected =
-            Forecast(filter, At(x - 1, y, c), At(x, y - 1, c), x > 0 ? At(x - 1, y - 1, c) : 0);
-        row.push_back(static_cast<std::uint8_t>((At(x, y, c) - expected) & 255));
-      }
-    }
-    return row;
-  }
-
-  const Bitmap& bitmap_;
-  int channels_;
-};
 
 }  // namespace
 
 void WritePng(const std::filesystem::path& path, const Bitmap& bitmap) {
-  const PngRows rows(bitmap);
-  Bytes header;
-  PutBig(header, static_cast<std::uint32_t>(bitmap.width));
-  PutBig(header, static_cast<std::uint32_t>(bitmap.height));
-  for (int value : {8, rows.channels() == 4 ? 6 : 2, 0, 0, 0})
-    header.push_back(static_cast<std::uint8_t>(value));
-  const Bytes plain = Deflate(rows.Unfiltered());
-  const Bytes adaptive = Deflate(rows.Adaptive());
-  Bytes out;
-  PutText(out, "\x89PNG\r\n\x1a\n");
-  PutChunk(out, "IHDR", header);
-  PutChunk(out, "IDAT", plain.size() < adaptive.size() ? plain : adaptive);
-  PutChunk(out, "IEND", {});
-  Save(path, out);
+  std::filesystem::create_directories(path.parent_path());
+  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.string().c_str(), "wb"),
+                                                             std::fclose);
+  if (!file || !Encode(file.get(), bitmap) || std::fflush(file.get()) != 0)
+    throw std::runtime_error("cannot write " + path.string());
 }
 
 void WriteBmp(const std::filesystem::path& path, const Bitmap& bitmap) {

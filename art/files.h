@@ -1,5 +1,4 @@
-#ifndef QUINTARA_ART_FILES_H
-#define QUINTARA_ART_FILES_H
+#pragma once
 
 #include <cstdint>
 #include <filesystem>
@@ -21,5 +20,3 @@ void WriteWav(const std::filesystem::path& path, const std::vector<std::int16_t>
               int samplesPerSecond);
 
 }  // namespace quintara::art
-
-#endif

@@ -1,5 +1,4 @@
-#ifndef QUINTARA_ART_GROUND_H
-#define QUINTARA_ART_GROUND_H
+#pragma once
 
 #include "art/canvas.h"
 
@@ -9,5 +8,3 @@ namespace quintara::art {
 inline constexpr Color meadowEdge = Rgb(0x7C9450);
 
 }  // namespace quintara::art
-
-#endif

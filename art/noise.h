@@ -1,5 +1,4 @@
-#ifndef QUINTARA_ART_NOISE_H
-#define QUINTARA_ART_NOISE_H
+#pragma once
 
 #include <cstdint>
 
@@ -21,5 +20,3 @@ double Fractal(double x, double y, int octaves, std::uint32_t seed);
 double Ridged(double x, double y, int octaves, std::uint32_t seed);
 
 }  // namespace quintara::art
-
-#endif

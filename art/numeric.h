@@ -1,5 +1,4 @@
-#ifndef QUINTARA_ART_NUMERIC_H
-#define QUINTARA_ART_NUMERIC_H
+#pragma once
 
 #include <algorithm>
 #include <cmath>
@@ -45,5 +44,3 @@ inline double Cosine(double turns) {
 }
 
 }  // namespace quintara::art
-
-#endif

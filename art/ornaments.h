@@ -1,5 +1,4 @@
-#ifndef QUINTARA_ART_ORNAMENTS_H
-#define QUINTARA_ART_ORNAMENTS_H
+#pragma once
 
 #include "art/shapes.h"
 
@@ -12,5 +11,3 @@ void PaintWreath(Brush& brush, Point center, double radius);
 void PaintBrazier(Brush& brush, Point foot);
 
 }  // namespace quintara::art
-
-#endif

@@ -1,5 +1,4 @@
-#ifndef QUINTARA_ART_PANORAMA_H
-#define QUINTARA_ART_PANORAMA_H
+#pragma once
 
 #include <vector>
 
@@ -59,5 +58,3 @@ class Panorama {
 };
 
 }  // namespace quintara::art
-
-#endif

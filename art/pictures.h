@@ -1,5 +1,4 @@
-#ifndef QUINTARA_ART_PICTURES_H
-#define QUINTARA_ART_PICTURES_H
+#pragma once
 
 #include "art/canvas.h"
 
@@ -43,5 +42,3 @@ Canvas PaintMasters();
 Canvas PaintRadarProfile(int number);
 
 }  // namespace quintara::art
-
-#endif

@@ -1,5 +1,4 @@
-#ifndef QUINTARA_ART_PIXEL_FONT_H
-#define QUINTARA_ART_PIXEL_FONT_H
+#pragma once
 
 #include <string_view>
 #include <vector>
@@ -18,5 +17,3 @@ int TextWidth(std::string_view text);
 void DrawText(Canvas& canvas, int left, int top, std::string_view text, Color color);
 
 }  // namespace quintara::art
-
-#endif

@@ -1,5 +1,4 @@
-#ifndef QUINTARA_ART_RANGES_H
-#define QUINTARA_ART_RANGES_H
+#pragma once
 
 #include <cstdint>
 
@@ -22,5 +21,3 @@ struct Range {
 void PaintRange(Canvas& canvas, int fine, const Range& range);
 
 }  // namespace quintara::art
-
-#endif

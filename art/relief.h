@@ -1,5 +1,4 @@
-#ifndef QUINTARA_ART_RELIEF_H
-#define QUINTARA_ART_RELIEF_H
+#pragma once
 
 #include <cstdint>
 
@@ -16,5 +15,3 @@ double RockLight(double x, double y, double size, std::uint32_t seed);
 Color SkyAt(double x, double y, double horizon, std::uint32_t seed);
 
 }  // namespace quintara::art
-
-#endif

@@ -1,5 +1,4 @@
-#ifndef QUINTARA_ART_SHAPES_H
-#define QUINTARA_ART_SHAPES_H
+#pragma once
 
 #include <vector>
 
@@ -86,5 +85,3 @@ class Brush {
 };
 
 }  // namespace quintara::art
-
-#endif

@@ -1,5 +1,4 @@
-#ifndef QUINTARA_ART_SOUNDS_H
-#define QUINTARA_ART_SOUNDS_H
+#pragma once
 
 #include <cstdint>
 #include <vector>
@@ -14,5 +13,3 @@ Samples TargetExplosion();
 Samples TempleGong();
 
 }  // namespace quintara::art
-
-#endif

@@ -1,5 +1,4 @@
-#ifndef QUINTARA_ART_TEMPLE_H
-#define QUINTARA_ART_TEMPLE_H
+#pragma once
 
 #include "art/shapes.h"
 
@@ -13,5 +12,3 @@ void PaintTemple(Brush& brush);
 Color Marble(Point p, double light);
 
 }  // namespace quintara::art
-
-#endif

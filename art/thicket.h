@@ -1,5 +1,4 @@
-#ifndef QUINTARA_ART_THICKET_H
-#define QUINTARA_ART_THICKET_H
+#pragma once
 
 #include "art/canvas.h"
 #include "art/panorama.h"
@@ -13,5 +12,3 @@ Color Hazed(Color color, double z);
 void PlantTrees(Canvas& canvas, const Panorama& panorama);
 
 }  // namespace quintara::art
-
-#endif

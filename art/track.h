@@ -1,5 +1,4 @@
-#ifndef QUINTARA_ART_TRACK_H
-#define QUINTARA_ART_TRACK_H
+#pragma once
 
 #include <cstdint>
 #include <vector>
@@ -68,5 +67,3 @@ class Track {
 };
 
 }  // namespace quintara::art
-
-#endif

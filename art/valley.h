@@ -1,5 +1,4 @@
-#ifndef QUINTARA_ART_VALLEY_H
-#define QUINTARA_ART_VALLEY_H
+#pragma once
 
 #include <vector>
 
@@ -68,5 +67,3 @@ struct Field {
 Field FieldAt(Point place, double height);
 
 }  // namespace quintara::art
-
-#endif

@@ -1,5 +1,4 @@
-#ifndef QUINTARA_ART_VILLAGE_H
-#define QUINTARA_ART_VILLAGE_H
+#pragma once
 
 #include "art/canvas.h"
 #include "art/panorama.h"
@@ -13,5 +12,3 @@ bool InVillage(Point place);
 void BuildVillage(Canvas& canvas, const Panorama& panorama);
 
 }  // namespace quintara::art
-
-#endif

@@ -111,7 +111,8 @@ void TrajectoryForm::Slider1_Scroll() {
 
 // The step that passes the slider counts along the ground only: height and time are those of the one before.
 void TrajectoryForm::FlyToSlider() {
-  for (const std::int16_t end = EndOfSteps(mTrajV0); mStepCount < end;) {
+  const std::int16_t end = EndOfSteps(mTrajV0);
+  while (mStepCount < end) {
     ++mStepCount;
     StepAlongGround(Flight(), Val(Label11.Caption));
     if (mTrajX > Slider1.Value * metresPerSliderPosition) return;
