@@ -32,15 +32,13 @@ TEST_F(HelpTest, EachTopicLaysTheWindowOutAnew) {
     const char *item, *caption, *text;
     double left, top, height;
     bool demonstrations, placeNames;
-  } rows[] = {
-      // The main form stands at 6742.5, 2365 and is 15315 by 11070 twips large.
-      {"mnuIntro", "Introduction", "On Introduction.", 6822.5, 2705, 9615, false, false},
-      {"mnuScenario", "Scenario", "On Scenario.", 4742.5, 5535, 4250, false, true},
-      {"mnuRules", "Rules", "On Rules.", 4792.5, 2085, 6900, false, false},
-      {"mnuPhysics", "Analysis", "On Analysis.", 6822.5, 2705, 9615, true, false},
-      {"mnuCodeSegment", "Computer Code", "On Code.", 6822.5, 2705, 9615, false, false},
-      {"mnuPrint", "Print", "On Printing.", 4792.5, 3285, 4500, false, false},
-  };
+  } rows[] = {// The main form stands at 6742.5, 2365 and is 15315 by 11070 twips large.
+              {"mnuIntro", "Introduction", "On Introduction.", 6822.5, 2705, 9615, false, false},
+              {"mnuScenario", "Scenario", "On Scenario.", 4742.5, 5535, 4250, false, true},
+              {"mnuRules", "Rules", "On Rules.", 4792.5, 2085, 6900, false, false},
+              {"mnuPhysics", "Analysis", "On Analysis.", 6822.5, 2705, 9615, true, false},
+              {"mnuCodeSegment", "Computer Code", "On Code.", 6822.5, 2705, 9615, false, false},
+              {"mnuPrint", "Print", "On Printing.", 4792.5, 3285, 4500, false, false}};
   for (const auto& row : rows) {
     Choose(row.item);
     EXPECT_EQ(platform.log, Log{"show Analysis"});

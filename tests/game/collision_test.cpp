@@ -31,8 +31,7 @@ TEST_F(CollisionTest, EachSegmentGuardsItsTriangle) {
       {form.Line27, 599, 0.7 * height + 5, form.Line31},  // in the triangle of Line31, too: the earlier wins
       {form.Line31, 1000, 0.35 * height, form.Line32},   {form.Line32, 1300, 0.15 * height, form.Line33},
       {form.Line33, 1340, 0.15 * height, form.Line34},   {form.Line34, 1800, 0.4 * height, form.Line35},
-      {form.Line35, 2790, 0.77 * height, form.Line35},
-  };
+      {form.Line35, 2790, 0.77 * height, form.Line35}};
   for (const auto& [segment, x, y, run] : cases) {
     platform.log.clear();
     form.Label21.Caption = "1";

@@ -49,7 +49,6 @@ TEST_F(FilesTest, JoinsNamesWithBackslashesOnEverySystem) {
 
 TEST_F(FilesTest, StoresARecordAmongOthers) {
   EXPECT_TRUE(files.WriteRecord(In("extra.txt"), 5, "15"));
-  EXPECT_EQ(Bytes("extra.txt"), std::string(40, ' ') + "15        ");
   EXPECT_TRUE(files.WriteRecord(In("extra.txt"), 2, "a text that is too long"));
   EXPECT_TRUE(files.WriteRecord(In("extra.txt"), 5, "7"));
   EXPECT_EQ(Bytes("extra.txt"), std::string(10, ' ') + "a text tha" + std::string(20, ' ') + "7         ");
@@ -85,15 +84,9 @@ TEST_F(FilesTest, ReadsLinesWithAnyLineEnd) {
   EXPECT_TRUE(files.WriteLines(In("Masters.txt"), {"\xff", "", "b"}));
   EXPECT_EQ(Bytes("Masters.txt"), "\xff\r\n\r\nb\r\n");
   EXPECT_EQ(files.ReadLines(In("Masters.txt")), (Lines{"\xff", "", "b"}));
-  EXPECT_TRUE(files.WriteLines(In("Masters.txt"), {}));
-  EXPECT_EQ(Bytes("Masters.txt"), "");
-}
-
-TEST_F(FilesTest, AWriteProtectedFileIsLeftAlone) {
-  Put("Masters.txt", "old\r\n");
   fs::permissions(folder.path() / "Masters.txt", fs::perms::owner_read);
   EXPECT_FALSE(files.WriteLines(In("Masters.txt"), {"new"}));
-  EXPECT_EQ(Bytes("Masters.txt"), "old\r\n");
+  EXPECT_EQ(Bytes("Masters.txt"), "\xff\r\n\r\nb\r\n") << "a write-protected file is left alone";
   EXPECT_EQ(Entries(), 1u);
 }
 
@@ -131,13 +124,12 @@ TEST_F(FilesTest, KnowsABitmapByItsHeader) {
   header[18] = 49;
   header[22] = 37;
   Put("good.bmp", header);
-  EXPECT_TRUE(files.IsBitmap(In("good.bmp")));
-  EXPECT_FALSE(files.IsBitmap(In("missing.bmp")));
   Put("short.bmp", header.substr(0, 20));
-  EXPECT_FALSE(files.IsBitmap(In("short.bmp")));
   header[21] = 127;
   Put("huge.bmp", header);
-  EXPECT_FALSE(files.IsBitmap(In("huge.bmp")));
+  EXPECT_TRUE(files.IsBitmap(In("good.bmp")));
+  for (const char* name : {"missing.bmp", "short.bmp", "huge.bmp"})
+    EXPECT_FALSE(files.IsBitmap(In(name))) << name;
 }
 
 }  // namespace

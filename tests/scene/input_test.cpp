@@ -124,11 +124,8 @@ TEST_F(InputTest, KeysArriveBeforeTheirEffectAndAreLostOnceTheBoxIsHidden) {
   form.Entry.Text = "";
   for (const int key : {8, 0x20AC, 127, 0xD800, 0xDFFF, 0x110000}) UserTypes(form.Entry, key);
   EXPECT_EQ(form.Entry.Text, "\xE2\x82\xAC") << "an empty box, and what is no character";
-}
-
-TEST_F(InputTest, PastedLineBreaksBecomeBlanks) {
   UserEdits(form.Entry, "Ada\r\nLovelace");
-  EXPECT_EQ(form.Entry.Text, "Ada  Lovelace");
+  EXPECT_EQ(form.Entry.Text, "Ada  Lovelace") << "pasted line breaks become blanks";
 }
 
 TEST_F(InputTest, ASelectionIsCutToTheText) {

@@ -15,40 +15,15 @@ TEST(Val, ReadsTheLeadingNumberOfAnyText) {
   const struct {
     std::string_view text;
     double value;
-  } cases[] = {
-      {"", 0},
-      {"  42  ", 42},
-      {"3x", 3},
-      {"15        ", 15},
-      {"0.003", 0.003},
-      {"-29.4", -29.4},
-      {"+7", 7},
-      {" - 5", -5},
-      {"1 5 . 2", 15.2},
-      {".5", 0.5},
-      {"5.", 5},
-      {".", 0},
-      {"-", 0},
-      {"- .", 0},
-      {"abc", 0},
-      {"1e3", 1000},
-      {"1e", 1},
-      {"1e+", 1},
-      {"2E-2km", 0.02},
-      {"1.2.3", 1.2},
-      {"1-2", 1},
-      {"0x10", 0},
-      {"1e400", 1.7976931348623157e308},
-      {"-1e400", -1.7976931348623157e308},
-      {"1e-400", 0},
-      {"9007199254740993", 9007199254740992.0},
-      {"0.1234567890123456789", 0.1234567890123456789},
-      {"100000000000000000000", 1e20},
-      {"\t5", 0},
-      {"\xff\xfe", 0},
-      {"1,5", 1},
-  };
+  } cases[] = {{"", 0},       {"15     ", 15},   {"0.003", 0.003}, {"-29.4", -29.4}, {"+7", 7},
+               {" - 5", -5},  {"1 5 . 2", 15.2}, {".5", 0.5},      {"5.", 5},        {".", 0},
+               {"-", 0},      {"- .", 0},        {"abc", 0},       {"1e3", 1000},    {"1e", 1},
+               {"1e+", 1},    {"2E-2km", 0.02},  {"1.2.3", 1.2},   {"1-2", 1},       {"0x10", 0},
+               {"1e-400", 0}, {"\t5", 0},        {"\xff\xfe", 0},  {"1,5", 1}};
   for (const auto& [text, value] : cases) EXPECT_EQ(Val(text), value) << text;
+  EXPECT_EQ(Val("9007199254740993"), 9007199254740992.0);
+  EXPECT_EQ(Val("0.1234567890123456789"), 0.1234567890123456789);
+  EXPECT_EQ(Val("-1e400"), std::numeric_limits<double>::lowest());
   EXPECT_EQ(Val(std::string(1'000'000, '9')), std::numeric_limits<double>::max());
   EXPECT_EQ(Val("0." + std::string(1'000'000, '0') + "1"), 0);
   EXPECT_EQ(Val("1e" + std::string(1000, '9')), std::numeric_limits<double>::max());
@@ -63,14 +38,10 @@ TEST(Val, TakesTheShortWayAndTheLongWayToTheSameNumber) {
 }
 
 TEST(ToText, DropsWhatIsNotSignificant) {
-  EXPECT_EQ(ToText(6), "6");
-  EXPECT_EQ(ToText(-5), "-5");
-  for (const char* text :
-       {"30", "0.003", "0.05", "-29.4", "9.37", "0.1", "0.01", "22.052", "1000000", "33.3"}) {
+  for (const char* text : {"-5", "30", "0.003", "0.05", "-29.4", "9.37", "0.07", "22.052", "1000000"}) {
     EXPECT_EQ(ToText(Single(Val(text))), text);
     EXPECT_EQ(ToText(Val(text)), text);
   }
-  EXPECT_EQ(ToText(Single(0.07)), "0.07");
   EXPECT_EQ(ToText(static_cast<double>(Single(0.07)) * 100), "7.00000002980232");
   EXPECT_EQ(ToText(0.07 * 100), "7");
   EXPECT_EQ(ToText(1.0 / 3), "0.333333333333333");
@@ -79,46 +50,34 @@ TEST(ToText, DropsWhatIsNotSignificant) {
   EXPECT_EQ(ToText(-0.0), "0");
   EXPECT_EQ(ToText(1e20), "100000000000000000000");
   EXPECT_EQ(ToText(1e-9), "0.000000001");
-}
-
-TEST(ToText, GivesTheFirstCharactersWithoutRounding) {
-  EXPECT_EQ(Left(ToText(Single(9.3712)), 4), "9.37");
-  EXPECT_EQ(Left(ToText(Single(10.25)), 4), "10.2");
-  EXPECT_EQ(Left(ToText(Single(20)), 4), "20");
+  EXPECT_EQ(Left(ToText(Single(9.3712)), 4), "9.37") << "the first characters aren't rounded";
   EXPECT_EQ(Right("C:\\", 1), "\\");
   EXPECT_EQ(Right("", 1), "");
 }
 
-TEST(Format, RoundsHalvesAwayFromZero) {
-  EXPECT_EQ(Format(0.5, Pattern::Whole), "1");
-  EXPECT_EQ(Format(2.5, Pattern::Whole), "3");
-  EXPECT_EQ(Format(12.5, Pattern::Whole), "13");
-  EXPECT_EQ(Format(-2.5, Pattern::Whole), "-3");
-  EXPECT_EQ(Format(3, Pattern::TwoDecimals), "3.00");
-  EXPECT_EQ(Format(0.125, Pattern::TwoDecimals), "0.13");
-  EXPECT_EQ(Format(-0.125, Pattern::TwoDecimals), "-0.13");
-  EXPECT_EQ(Format(0.05, Pattern::TwoDecimals), "0.05");
-  EXPECT_EQ(Format(123456.78, Pattern::TwoDecimals), "123456.78");
-}
-
-TEST(Format, ShowsNoMinusSignOnZero) {
-  EXPECT_EQ(Format(-0.004, Pattern::TwoDecimals), "0.00");
-  EXPECT_EQ(Format(-0.4, Pattern::Whole), "0");
-  EXPECT_EQ(Format(-0.005, Pattern::TwoDecimals), "0.00") << "the single lies below the half";
+TEST(Format, RoundsHalvesAwayFromZeroAndShowsNoMinusSignOnIt) {
+  const struct {
+    double number;
+    const char *whole, *twoDecimals;
+  } cases[] = {{0.5, "1", "0.50"},    {2.5, "3", "2.50"},     {-2.5, "-3", "-2.50"},
+               {0.125, "0", "0.13"},  {-0.125, "0", "-0.13"}, {0.05, "0", "0.05"},
+               {-0.004, "0", "0.00"}, {-0.4, "0", "-0.40"},   {123456.78, "123457", "123456.78"},
+               {-0.005, "0", "0.00"}};  // the single lies below the half
+  for (const auto& [number, whole, twoDecimals] : cases) {
+    EXPECT_EQ(Format(number, Pattern::Whole), whole) << number;
+    EXPECT_EQ(Format(number, Pattern::TwoDecimals), twoDecimals) << number;
+  }
 }
 
 TEST(WholeNumbers, RoundAsTheirNamesSay) {
-  EXPECT_EQ(CInt(2.5), 2);
-  EXPECT_EQ(CInt(3.5), 4);
-  EXPECT_EQ(CInt(7.5), 8);
-  EXPECT_EQ(CInt(-2.5), -2);
+  for (const auto& [number, rounded] :
+       {std::pair{2.5, 2}, {3.5, 4}, {-2.5, -2}, {1e9, 32767}, {-1e9, -32768}})
+    EXPECT_EQ(CInt(number), rounded);
   EXPECT_EQ(CLng(90.909), 91);
-  EXPECT_EQ(Int(2.7), 2);
-  EXPECT_EQ(Int(-0.5), -1);
-  EXPECT_EQ(CInt(1e9), 32767);
-  EXPECT_EQ(CInt(-1e9), -32768);
   EXPECT_EQ(CLng(1e300), 2147483647);
   EXPECT_EQ(CLng(std::nan("")), 0);
+  EXPECT_EQ(Int(2.7), 2);
+  EXPECT_EQ(Int(-0.5), -1);
 }
 
 TEST(Single, RoundsOnceAtTheStore) {
@@ -143,9 +102,7 @@ TEST(ExactText, ReadsBackToTheSameSingle) {
   EXPECT_EQ(ExactText(-infinity), "-340282346638528859811704183484516925440") << "the largest single";
   EXPECT_EQ(ToText(infinity).substr(0, 5), "34028");
   EXPECT_EQ(Format(std::nan(""), Pattern::TwoDecimals), "0.00");
-  EXPECT_FALSE(ReadDecimal("").has_value());
-  EXPECT_FALSE(ReadDecimal("12x").has_value());
-  EXPECT_FALSE(ReadDecimal("inf").has_value());
+  for (const char* text : {"", "12x", "inf"}) EXPECT_FALSE(ReadDecimal(text).has_value()) << text;
 }
 
 TEST(Text, ComparesCharacterByCharacter) {
@@ -176,10 +133,7 @@ TEST(Chance, NeverReachesOneAndCanBeQueued) {
     sum += value;
   }
   EXPECT_NEAR(sum / 100'000, 0.5, 0.01);
-}
 
-TEST(Chance, DrawsAfreshFromEachSeed) {
-  Chance chance;
   chance.Randomize(7);
   const double first = chance.Rnd();
   chance.Randomize(7);
