@@ -6,12 +6,12 @@
 #include <string>
 
 #include "host/session.h"
-#include "tests/host/trial_forms.h"
+#include "program/program.h"
 #include "tests/support/recording_platform.h"
 
 namespace quintara::host {
 
-// A host with the two trial forms. Say hands it lines and gives what it prints.
+// A host with the game. Say hands it lines and gives what it prints.
 class HostTest : public ::testing::Test {
  protected:
   std::string Say(const std::string& lines) {
@@ -20,26 +20,31 @@ class HostTest : public ::testing::Test {
     session.Run(in);
     return out.str();
   }
-  void Start() { ASSERT_EQ(Say("start"), "! show Trial\nok\n"); }
-  // What the handlers noted since the last call.
-  std::string Noted() {
-    std::string noted = trial.lblLog.Caption;
-    trial.lblLog.Caption = "";
-    return noted;
+  void Start() { ASSERT_EQ(Say("start"), "! show Quintara\nok\n"); }
+  // As it is printed.
+  std::string Get(const std::string& property) {
+    const std::string reply = Say("get " + property);
+    return reply.substr(0, reply.find('\n'));
+  }
+  // Opens a document or another window.
+  void Choose(const std::string& item) {
+    ASSERT_EQ(Say("answer menu " + item + "\nclick Quintara.cmdHelp").substr(0, 11), "ok\n! popup ");
+  }
+  // Each of these commands, with a bar between two, is refused and prints nothing but that.
+  void ExpectRefused(const std::string& commands) {
+    std::istringstream stream(commands);
+    for (std::string line; std::getline(stream, line, '|');) {
+      const std::string reply = Say(line);
+      EXPECT_TRUE(reply.starts_with("error: ") && reply.find('\n') == reply.size() - 1) << line;
+    }
   }
 
   TemporaryFolder folder;
   std::ostringstream out;
-  HostPlatform platform{folder.path(), out};
-  Scene scene{platform};
-  SideForm side{scene};
-  TrialForm trial{scene, side};
-  Session session{scene, platform, out, [this] { scene.dispatcher().Run(trial, [this] { trial.Show(); }); }};
+  HostPlatform platform{folder.path() / "", out};
+  Program program{platform};
+  QuintaraForm& form = program.quintara();
+  Session session{program.scene(), platform, out, [this] { program.Start(); }};
 };
-
-// Whether a command was refused and printed nothing but that.
-inline bool IsRefusal(const std::string& reply) {
-  return reply.starts_with("error: ") && reply.find('\n') == reply.size() - 1;
-}
 
 }  // namespace quintara::host

@@ -1,36 +1,11 @@
 #include "program/program.h"
 
-#include <gtest/gtest.h>
-
-#include <sstream>
-
-#include "host/session.h"
-#include "tests/support/recording_platform.h"
+#include "tests/host/host_test.h"
 
 namespace quintara::host {
 namespace {
 
-class ProgramTest : public ::testing::Test {
- protected:
-  std::string Say(const std::string& lines) {
-    out.str("");
-    std::istringstream in(lines);
-    session.Run(in);
-    return out.str();
-  }
-
-  TemporaryFolder folder;
-  std::ostringstream out;
-  HostPlatform platform{folder.path() / "", out};
-  Program program{platform};
-  Session session{program.scene(), platform, out, [this] { program.Start(); }};
-};
-
-TEST_F(ProgramTest, AMenuIsToldInTheNumbersOfTheProgram) {
-  EXPECT_EQ(Say("answer menu mnuDivider"), "error: there is no menu item \"mnuDivider\"\n");
-  EXPECT_EQ(Say("start\nclick Quintara.cmdHelp"),
-            "! show Quintara\nok\n! popup mnuHelp 13200 6680 -> -\nok\n");
-}
+using ProgramTest = HostTest;
 
 TEST_F(ProgramTest, TheSameInputPrintsTheSameBytes) {
   const std::string script =
@@ -44,19 +19,6 @@ TEST_F(ProgramTest, TheSameInputPrintsTheSameBytes) {
   std::istringstream in(script);
   otherSession.Run(in);
   EXPECT_EQ(otherOut.str(), first);
-}
-
-// A name that two objects of a form shared would give another value than the dump does.
-TEST_F(ProgramTest, EveryObjectIsReachedByItsName) {
-  Say("start");
-  for (const Form* form : program.scene().forms()) {
-    EXPECT_EQ(Say("set " + std::string(form->name()) + ".Left 100"), "ok\n");
-  }
-  std::istringstream lines(Say("dump"));
-  for (std::string line; std::getline(lines, line) && line != "ok";) {
-    const std::string name = line.substr(0, line.find(" = "));
-    EXPECT_EQ(Say("get " + name), line.substr(name.size() + 3) + "\nok\n") << line;
-  }
 }
 
 TEST_F(ProgramTest, ThePlatform) {

@@ -13,6 +13,13 @@ Word Plain(const std::string& text) {
   return {text, false};
 }
 
+// Each of these words is none of its kind, and neither is a quoted one.
+template <typename Value>
+void ExpectRefused(std::initializer_list<const char*> words) {
+  for (const char* word : words) EXPECT_THROW(Value::Read(Plain(word)), Refusal) << word;
+  EXPECT_THROW(Value::Read({"0", true}), Refusal);
+}
+
 TEST(ValuesTest, LinesSplitIntoWords) {
   const auto words = SplitWords("  set\tA.B(1).C  \"two words\" \"\" a\"b ");
   ASSERT_EQ(words.size(), 5u);
@@ -48,38 +55,23 @@ TEST(ValuesTest, EverySingleComesBack) {
   EXPECT_EQ(Decimal::Write(Single(0.1)), "0.1");
 }
 
-TEST(ValuesTest, NumbersKeepToTheirType) {
+TEST(ValuesTest, NumbersBooleansAndColoursKeepToTheirType) {
   EXPECT_EQ(Integer16::Read(Plain("-32768")), -32768);
   EXPECT_EQ(Integer32::Read(Plain("2147483647")), 2147483647);
-  for (const char* word :
-       {"32768", "-32769", "99999999999999999999", "1.5", "1e2", "", "+1", "x", "1x", "-"}) {
-    EXPECT_THROW(Integer16::Read(Plain(word)), Refusal) << word;
-  }
-  EXPECT_THROW(Integer32::Read(Plain("2147483648")), Refusal);
-  EXPECT_THROW(Integer16::Read({"1", true}), Refusal);
-
+  ExpectRefused<Integer16>(
+      {"32768", "-32769", "99999999999999999999", "1.5", "1e2", "", "+1", "x", "1x", "-"});
+  ExpectRefused<Integer32>({"2147483648"});
   EXPECT_EQ(Decimal::Read(Plain("340282350000000000000000000000000000000")), 0x1.fffffep127);
   EXPECT_EQ(Decimal::Read(Plain("-12.5")), -12.5);
-  for (const char* word :
-       {"340282360000000000000000000000000000000", "-1e39", "1e999", "inf", "nan", "1,5", ""}) {
-    EXPECT_THROW(Decimal::Read(Plain(word)), Refusal) << word;
-  }
-  EXPECT_THROW(Decimal::Read({"1", true}), Refusal);
-}
-
-TEST(ValuesTest, BooleansAndColours) {
+  ExpectRefused<Decimal>(
+      {"340282360000000000000000000000000000000", "-1e39", "1e999", "inf", "nan", "1,5", ""});
   EXPECT_TRUE(Boolean::Read(Plain("-1")));
   EXPECT_FALSE(Boolean::Read(Plain("0")));
-  for (const char* word : {"1", "True", "-1.0", "00", ""}) {
-    EXPECT_THROW(Boolean::Read(Plain(word)), Refusal) << word;
-  }
+  ExpectRefused<Boolean>({"1", "True", "-1.0", "00", ""});
   EXPECT_EQ(ColourCode::Write(0x800000FF), "0x800000FF");
   EXPECT_EQ(ColourCode::Read(Plain("0x00ab0cDE")), Colour(0x00AB0CDE));
-  for (const char* word :
-       {"0xFF", "255", "0x000000GG", "0x-0000001", "0x0000000000", "00x0000000", "#00000000"}) {
-    EXPECT_THROW(ColourCode::Read(Plain(word)), Refusal) << word;
-  }
-  EXPECT_THROW(ColourCode::Read({"0x00000000", true}), Refusal);
+  ExpectRefused<ColourCode>(
+      {"0xFF", "255", "0x000000GG", "0x-0000001", "0x0000000000", "00x0000000", "#00000000"});
 }
 
 }  // namespace
