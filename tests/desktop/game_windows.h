@@ -55,6 +55,13 @@ class GameWindows : public testing::Test {
     Do([this] { main.cmdMagnify.Click.Raise(); });
     Do([this] { main.Image7.Enabled = true; });
   }
+  // The offer to the player of a good game, in the list's open window.
+  void TypeAName() {
+    Do([this] {
+      program.masters().Picture1.Visible = true;
+      program.masters().Text1.SetFocus();
+    });
+  }
   // The controls that the Tab key walks through, from the window on.
   std::vector<std::string> TabOrder(Form& form) {
     std::vector<std::string> names;

@@ -14,45 +14,45 @@
 namespace quintara::desktop {
 namespace {
 
+using Objects = std::initializer_list<const Object*>;
+
 class KeyboardTest : public GameWindows {
  protected:
   // Presses Escape once a menu is open; returns whether one was.
   void DismissMenu(bool& wasOpen, int tries = 200) {
-    QTimer::singleShot(5, &session_, [this, &wasOpen, tries] {
+    QTimer::singleShot(5, &WindowOf(main), [this, &wasOpen, tries] {
       auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-      if (menu == nullptr) {
-        if (tries > 0) DismissMenu(wasOpen, tries - 1);
-        return;
-      }
-      wasOpen = true;
-      QTest::keyClick(menu, Qt::Key_Escape);
+      wasOpen = menu != nullptr;
+      if (wasOpen) return QTest::keyClick(menu, Qt::Key_Escape);
+      if (tries > 0) DismissMenu(wasOpen, tries - 1);
     });
   }
-
- private:
-  QObject session_;
+  void ExpectTabOrder(Form& form, const Names& names) { EXPECT_EQ(TabOrder(form), names) << form.name(); }
 };
 
 TEST_F(KeyboardTest, TabWalksThroughWhatCanBeUsed) {
-  EXPECT_EQ(TabOrder(main), (Names{"cmdSearch", "cmdSound", "cmdHelp", "cmdCancel"}));
+  ExpectTabOrder(main, {"cmdSearch", "cmdSound", "cmdHelp", "cmdCancel"});
   OpenProfile();
-  EXPECT_EQ(TabOrder(main), (Names{"VScroll1", "VScroll2", "HScroll1", "cmdAdvanced", "Image7", "cmdSound",
-                                   "cmdHelp", "cmdCancel"}));
+  ExpectTabOrder(main, {"VScroll1", "VScroll2", "HScroll1", "cmdAdvanced", "Image7", "cmdSound", "cmdHelp",
+                        "cmdCancel"});
   Press(Qt::Key_Backtab, Qt::ShiftModifier);
   EXPECT_EQ(NameOfFocus(main), "cmdCancel");
-
-  Open(program.trajectory());
-  EXPECT_EQ(TabOrder(program.trajectory()),
-            (Names{"HScroll1", "HScroll2", "HScroll3", "cmdFire", "Slider1", "cmdCancel"}));
-  Open(program.projectile());
-  EXPECT_EQ(TabOrder(program.projectile()),
-            (Names{"cmdBall1", "cmdBall2", "cmdBall3", "cmdStop", "cmdCancel"}));
-  Do([&] { program.analysis().Open(HelpTopic::Physics); });
-  Activate(program.analysis());
-  EXPECT_EQ(TabOrder(program.analysis()), (Names{"rtbMath", "cmdFreeFall", "cmdCancel", "cmdTrajectory"}));
-  Open(program.masters());
-  Do([&] { program.masters().Picture1.Visible = true; });
-  EXPECT_EQ(TabOrder(program.masters()), (Names{"Text1", "List1", "cmdRemove", "cmdCancel"}));
+  for (Form* form : program.scene().forms()) {
+    if (form != &main) Open(*form);
+  }
+  Do([&] {
+    program.analysis().Open(HelpTopic::Physics);
+    program.masters().Picture1.Visible = true;
+  });
+  const std::pair<Form&, Names> orders[] = {
+      {program.trajectory(), {"HScroll1", "HScroll2", "HScroll3", "cmdFire", "Slider1", "cmdCancel"}},
+      {program.projectile(), {"cmdBall1", "cmdBall2", "cmdBall3", "cmdStop", "cmdCancel"}},
+      {program.analysis(), {"rtbMath", "cmdFreeFall", "cmdCancel", "cmdTrajectory"}},
+      {program.masters(), {"Text1", "List1", "cmdRemove", "cmdCancel"}}};
+  for (const auto& [form, names] : orders) {
+    Activate(form);
+    ExpectTabOrder(form, names);
+  }
 }
 
 TEST_F(KeyboardTest, TabGoesOnFromAControlThatCanNotBeUsedAnyMore) {
@@ -68,8 +68,7 @@ TEST_F(KeyboardTest, TabGoesOnFromAControlThatCanNotBeUsedAnyMore) {
 
 TEST_F(KeyboardTest, TheControlWithTheFocusIsMarked) {
   OpenProfile();
-  for (const Object* object : {static_cast<Object*>(&main.VScroll1), static_cast<Object*>(&main.HScroll1),
-                               static_cast<Object*>(&main.Image7), static_cast<Object*>(&main.cmdHelp)}) {
+  for (const Object* object : Objects{&main.VScroll1, &main.HScroll1, &main.Image7, &main.cmdHelp}) {
     QWidget& widget = WidgetOf(*object);
     const QRect place(widget.mapTo(&WindowOf(main), QPoint()), widget.size());
     WindowOf(main).setFocus();
@@ -114,7 +113,7 @@ TEST_F(KeyboardTest, SpaceAndEnterPressWhatHasTheFocus) {
   main.cmdSound.Click.Bind([&] { heard.push_back("sound"); });
   main.Image7.Click.Bind([&] { heard.push_back("fire"); });
   OpenProfile();
-  for (const Object* object : {static_cast<Object*>(&main.cmdSound), static_cast<Object*>(&main.Image7)}) {
+  for (const Object* object : Objects{&main.cmdSound, &main.Image7}) {
     WidgetOf(*object).setFocus();
     Press(Qt::Key_Space);
     Press(Qt::Key_Return);
@@ -137,20 +136,15 @@ TEST_F(KeyboardTest, LettersWorkTheConsoleAndNotWhatCannotBeUsed) {
   note(main.Image7.Click, "fire");
   note(main.cmdReset.Click, "reset");
   note(main.cmdSound.Click, "sound");
-  Press(Qt::Key_S);
-  Press(Qt::Key_S, Qt::ShiftModifier);
-  Press(Qt::Key_S, Qt::ControlModifier);
-  Press(Qt::Key_F);
-  Press(Qt::Key_R);
-  Press(Qt::Key_O);
+  for (const auto modifier : {Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier})
+    Press(Qt::Key_S, modifier);
+  for (const Qt::Key key : {Qt::Key_F, Qt::Key_R, Qt::Key_O}) Press(key);
   EXPECT_EQ(heard, (Names{"search", "search", "sound"}));
   heard.clear();
   OpenProfile();
   Do([&] { main.cmdReset.Enabled = true; });
   WidgetOf(main.VScroll1).setFocus();
-  Press(Qt::Key_F);
-  Press(Qt::Key_R);
-  Press(Qt::Key_S);
+  for (const Qt::Key key : {Qt::Key_F, Qt::Key_R, Qt::Key_S}) Press(key);
   EXPECT_EQ(heard, (Names{"fire", "reset"}));
   QKeyEvent held(QEvent::KeyPress, Qt::Key_F, Qt::NoModifier, "f", true);
   QApplication::sendEvent(QApplication::focusWidget(), &held);
@@ -158,32 +152,28 @@ TEST_F(KeyboardTest, LettersWorkTheConsoleAndNotWhatCannotBeUsed) {
 
   MastersForm& masters = program.masters();
   Open(masters);
-  Do([&] {
-    masters.Picture1.Visible = true;
-    masters.Text1.SetFocus();
-  });
+  TypeAName();
   QTest::keyClicks(&WidgetOf(masters.Text1), "F. S. Major");
   EXPECT_EQ(masters.Text1.Text.Get(), "F. S. Major");
   EXPECT_EQ(heard.size(), 2U);
 }
 
 TEST_F(KeyboardTest, HelpOpensFromEveryWindow) {
-  bool opened = false;
-  DismissMenu(opened);
-  Press(Qt::Key_H);
-  EXPECT_TRUE(opened);
-  Open(program.trajectory());
-  opened = false;
-  DismissMenu(opened);
-  Press(Qt::Key_F1);
-  EXPECT_TRUE(opened);
+  for (const auto& [form, key] :
+       {std::pair<Form*, Qt::Key>{&main, Qt::Key_H}, {&program.trajectory(), Qt::Key_F1}}) {
+    Open(*form);
+    bool opened = false;
+    DismissMenu(opened);
+    Press(key);
+    EXPECT_TRUE(opened) << form->name();
+  }
 }
 
 TEST_F(KeyboardTest, EscapeClosesSideWindowsOnly) {
   Press(Qt::Key_Escape);
   EXPECT_TRUE(main.loaded());
-  for (Form* form : {static_cast<Form*>(&program.about()), static_cast<Form*>(&program.projectile()),
-                     static_cast<Form*>(&program.trajectory()), static_cast<Form*>(&program.analysis())}) {
+  for (Form* form : program.scene().forms()) {
+    if (form == &main || form == &program.masters()) continue;
     Open(*form);
     Press(Qt::Key_Tab);
     Press(Qt::Key_Escape);
@@ -193,10 +183,7 @@ TEST_F(KeyboardTest, EscapeClosesSideWindowsOnly) {
   Open(masters);
   std::vector<int> keys;
   masters.Text1.KeyPress.Bind([&](std::int16_t key) { keys.push_back(key); });
-  Do([&] {
-    masters.Picture1.Visible = true;
-    masters.Text1.SetFocus();
-  });
+  TypeAName();
   Press(Qt::Key_Escape);
   EXPECT_EQ(keys, std::vector<int>{27});
   EXPECT_FALSE(masters.loaded()) << "also while a name is typed";

@@ -88,7 +88,15 @@ class WindowTest : public testing::Test {
   QColor ColourAt(int left, int top) {
     return window().grab().toImage().pixelColor(ToPixels(left), ToPixels(top));
   }
-  static QPoint Pixel(int left, int top) { return {ToPixels(left), ToPixels(top)}; }
+  // The pixel there, in the zoom that is set.
+  QPoint Pixel(int left, int top) const {
+    return (QPointF(left, top) / twipsPerPixel * session.zoom().factor()).toPoint();
+  }
+  // A click with the mouse, wherever the widget is that takes it.
+  void ClickAt(int left, int top) {
+    QWidget* widget = window().childAt(Pixel(left, top));
+    QTest::mouseClick(widget, Qt::LeftButton, {}, widget->mapFrom(&window(), Pixel(left, top)));
+  }
 
   TemporaryFolder folder;
   DesktopPlatform platform{QString::fromStdString(folder.text())};

@@ -23,6 +23,10 @@ TEST_F(PropertiesTest, DumpGetAndSetAgree) {
   EXPECT_TRUE(before.find("\nfrmMasters.Caption") < before.find("\nprojectile.Caption"))
       << "forms come in the order of their loading";
   EXPECT_NE(before.find("\n" + Say("dump frmMasters").substr(0, 1000)), std::string::npos);
+  EXPECT_NE(
+      before.find("\nAbout.SSPanel1.Caption = \"Quintara Version 1.0\"\nAbout.SSPanel1.Left = 720\n"
+                  "About.SSPanel1.Top = 120\nAbout.SSPanel1.Width = 2775\nAbout.SSPanel1.Height = 495\n"),
+      std::string::npos);
   std::istringstream lines(before);
   int written = 0;
   for (std::string line; std::getline(lines, line) && line != "ok";) {
