@@ -17,13 +17,10 @@ const QColor green(0, 255, 0), blue(0, 0, 255), red(255, 0, 0), yellow(255, 255,
 
 class PaintingTest : public WindowTest {
  protected:
-  // What is on the screen by now. Unlike a grab, it repaints nothing of its own accord.
-  QImage OnScreen() {
-    QCoreApplication::processEvents();
-    return window().screen()->grabWindow(window().winId()).toImage();
-  }
+  // Whether all that changed was repainted by now; a grab repaints of its own accord.
   bool ScreenIsUpToDate() {
-    const QImage screen = OnScreen();
+    QCoreApplication::processEvents();
+    const QImage screen = window().screen()->grabWindow(window().winId()).toImage();
     return window().grab().toImage().convertToFormat(screen.format()) == screen;
   }
 };
@@ -107,14 +104,11 @@ TEST_F(PaintingTest, PlacesBeyondAllBoundsAreHarmless) {
 
 TEST_F(PaintingTest, TheLookOfTheSystemStaysOutside) {
   EXPECT_EQ(ColourAt(3030, 1160), QColor(0xC0, 0xC0, 0xC0)) << "the face of a button";
-  EXPECT_EQ(WidgetOf(form.txtName).palette().color(QPalette::Base), white);
-  EXPECT_EQ(WidgetOf(form.txtName).palette().color(QPalette::Text), QColor(Qt::black));
   EXPECT_EQ(ToQFont({"MS Sans Serif", 6.75}).pixelSize(), 9);
   EXPECT_EQ(ToQFont({"MS Sans Serif", 8.25}).pixelSize(), 11);
   EXPECT_EQ(ToQFont({"Arial Black", 18, true, true}).pixelSize(), 24);
-}
 
-TEST_F(PaintingTest, ACaptionWiderThanItsButtonIsDrawnSmaller) {
+  // A caption that is wider than its button is drawn smaller.
   Do([&] { form.cmdPush.Caption = "A long caption"; });
   const QWidget& button = WidgetOf(form.cmdPush);
   EXPECT_LE(button.fontMetrics().horizontalAdvance("A long caption"), 60);
@@ -125,18 +119,20 @@ TEST_F(PaintingTest, ACaptionWiderThanItsButtonIsDrawnSmaller) {
 TEST(CaptionLinesTest, BreaksWhereTheNextWordDoesNotFitAndKeepsTheBlanks) {
   const QFontMetricsF metrics(ToQFont(Font{}));
   const auto widthOf = [&](const char* text) { return metrics.horizontalAdvance(text) + 0.01; };
-  using TextLines = QStringList;
-  EXPECT_EQ(CaptionLines("one two", metrics, widthOf("one two")), TextLines({"one two"}));
-  EXPECT_EQ(CaptionLines("one two", metrics, widthOf("one tw")), TextLines({"one", "two"}));
-  EXPECT_EQ(CaptionLines(" one       two", metrics, widthOf(" one     ")), TextLines({" one", "  two"}))
-      << "blanks that don't fit begin the next line";
-  EXPECT_EQ(CaptionLines("one   two", metrics, widthOf("two")), TextLines({"one", "two"}))
-      << "unless a word would not fit behind them";
-  EXPECT_EQ(CaptionLines("  one  two   ", metrics, 1000), TextLines({"  one  two   "}));
-  EXPECT_EQ(CaptionLines("one two  ", metrics, widthOf("two")), TextLines({"one", "two  "}));
-  EXPECT_EQ(CaptionLines("one two", metrics, 0), TextLines({"one", "two"}))
-      << "a word that is too long stays whole";
-  EXPECT_EQ(CaptionLines("one\r\n\ntwo", metrics, 1000), TextLines({"one", "", "two"}));
+  const struct {
+    const char* caption;
+    double width;
+    QStringList lines;
+  } cases[] = {{"one two", widthOf("one two"), {"one two"}},
+               {"one two", widthOf("one tw"), {"one", "two"}},
+               {" one       two", widthOf(" one     "), {" one", "  two"}},  // blanks that don't fit go on
+               {"one   two", widthOf("two"), {"one", "two"}},  // unless a word would not fit behind them
+               {"  one  two   ", 1000, {"  one  two   "}},
+               {"one two  ", widthOf("two"), {"one", "two  "}},
+               {"one two", 0, {"one", "two"}},  // a word that is too long stays whole
+               {"one\r\n\ntwo", 1000, {"one", "", "two"}}};
+  for (const auto& [caption, width, lines] : cases)
+    EXPECT_EQ(CaptionLines(caption, metrics, width), lines) << caption << " in " << width;
 }
 
 }  // namespace

@@ -18,9 +18,7 @@ TEST(WaveFileTest, TheShippedSoundsCanBePlayed) {
   for (const char* name : {"biggun.wav", "bomb.wav", "bombex~2.wav", "gong.wav"}) {
     const auto wave = ReadWave(SoundFile(name));
     ASSERT_TRUE(wave) << name;
-    EXPECT_EQ(wave->samplesPerSecond, 22050) << name;
-    EXPECT_EQ(wave->channels, 1) << name;
-    EXPECT_EQ(wave->bitsPerSample, 16) << name;
+    EXPECT_TRUE(wave->samplesPerSecond == 22050 && wave->channels == 1 && wave->bitsPerSample == 16) << name;
     EXPECT_GT(wave->samples.size(), 22050U) << name;
   }
 }
@@ -37,6 +35,9 @@ TEST(WaveFileTest, OfAFileCutOffTheSoundThatIsThereIsPlayed) {
     EXPECT_EQ(wave->samples, samples.substr(0, wave->samples.size()));
   }
   EXPECT_EQ(playable, 300 - 44 - 2);
+  const std::string note = std::string("LIST\3\0\0\0abc\0", 12);
+  EXPECT_EQ(ReadWave(whole.substr(0, 36) + note + whole.substr(36))->samples, samples)
+      << "other chunks may stand before the samples";
 }
 
 TEST(WaveFileTest, NoDamageToAHeaderIsTakenForASoundThatCanNotBePlayed) {
@@ -49,19 +50,10 @@ TEST(WaveFileTest, NoDamageToAHeaderIsTakenForASoundThatCanNotBePlayed) {
       if (!wave) continue;
       EXPECT_TRUE(wave->bitsPerSample == 8 || wave->bitsPerSample == 16);
       EXPECT_TRUE(wave->channels == 1 || wave->channels == 2);
-      EXPECT_GE(wave->samplesPerSecond, 1000);
-      EXPECT_LE(wave->samplesPerSecond, 192'000);
+      EXPECT_TRUE(wave->samplesPerSecond >= 1000 && wave->samplesPerSecond <= 192'000);
       EXPECT_LE(wave->samples.size(), whole.size());
     }
   }
-}
-
-TEST(WaveFileTest, OtherChunksMayStandBeforeTheSamples) {
-  const std::string whole = SoundFile("gong.wav");
-  const std::string note = std::string("LIST\3\0\0\0abc\0", 12);
-  const auto wave = ReadWave(whole.substr(0, 36) + note + whole.substr(36));
-  ASSERT_TRUE(wave);
-  EXPECT_EQ(wave->samples, ReadWave(whole)->samples);
 }
 
 }  // namespace
