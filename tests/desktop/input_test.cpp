@@ -71,17 +71,6 @@ TEST_F(InputTest, MovesReachWhatIsUnderThePointer) {
   EXPECT_EQ(heard, (Heard{"over box", "over box"})) << "a disabled button too";
 }
 
-TEST_F(InputTest, ButtonsTakeMouseAndKeysUntilTheyAreDisabled) {
-  for (const bool enabled : {true, false}) {
-    Do([&] { form.cmdPush.Enabled = enabled; });
-    ClickAt(3300, 1050);
-    QTest::keyClick(&WidgetOf(form.cmdPush), Qt::Key_Space);
-    EXPECT_EQ(heard, (Heard{"push", "push"}));
-    EXPECT_EQ(WidgetOf(form.cmdPush).hasFocus(), enabled);
-  }
-  EXPECT_EQ(window().focusWidget(), &window()) << "the focus does not wander to another button";
-}
-
 TEST_F(InputTest, AScrollBarMayCountDownwards) {
   auto& bar = WidgetOf<QScrollBar>(form.vsbUpside);
   Note(form.vsbUpside.Change, "change");

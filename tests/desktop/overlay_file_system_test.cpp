@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 #include <map>
 
 #include "desktop/program_folders.h"
@@ -17,18 +15,11 @@ namespace fs = std::filesystem;
 using Lines = std::vector<std::string>;
 using Contents = std::map<std::string, std::string>;
 
-void Put(const fs::path& path, const std::string& bytes) {
-  std::ofstream(path, std::ios::binary) << bytes;
-}
-
 Contents ContentsOf(const fs::path& folder) {
   Contents contents;
-  for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
-    std::string& bytes = contents[entry.path().filename().string()] = "(a folder)";
-    if (!entry.is_regular_file()) continue;
-    std::ifstream file(entry.path(), std::ios::binary);
-    bytes.assign(std::istreambuf_iterator<char>(file), {});
-  }
+  for (const fs::directory_entry& entry : fs::directory_iterator(folder))
+    contents[entry.path().filename().string()] =
+        entry.is_regular_file() ? BytesOf(entry.path()) : "(a folder)";
   return contents;
 }
 

@@ -2,16 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
+#include "tests/support/recording_platform.h"
 
 namespace quintara::desktop {
 namespace {
 
 std::string SoundFile(const std::string& name) {
-  std::ifstream file(std::filesystem::path(DATA) / name, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
+  return BytesOf(std::filesystem::path(DATA) / name);
 }
 
 TEST(WaveFileTest, TheShippedSoundsCanBePlayed) {

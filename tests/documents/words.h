@@ -41,8 +41,7 @@ inline fs::path DataFolder() {
 }
 
 inline std::string Source(const std::string& file) {
-  std::ifstream stream(DataFolder() / file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), {}};
+  return BytesOf(DataFolder() / file);
 }
 
 inline std::string Replaced(std::string text, const std::string& from, const std::string& to) {

@@ -96,20 +96,5 @@ TEST_F(CollisionTest, APreviewInFlightSendsTheShellIntoTheGround) {
   EXPECT_FALSE(form.tmrShell.Enabled);
 }
 
-TEST_F(CollisionTest, AHitSetsTheStage) {
-  for (const double value : {0.0, 0.1, 0.5, 0.9, 0.999}) chance.Queue(value);
-  FireTo(22052, -1);
-  EXPECT_FALSE(form.Label23.Visible || form.Line8.Visible || form.Label11.Visible || form.Image5.Visible);
-  EXPECT_FALSE(form.Image7.Enabled || form.tmrShell.Enabled);
-  EXPECT_TRUE(form.Image8.Visible && form.Shape1(0).Visible && form.Shape1(1).Visible);
-  EXPECT_EQ(platform.log.back(), "sound bombex~2.wav");
-  Advance(100);
-  const double left = form.Image8.Left;
-  EXPECT_EQ(form.shpExplode1.Left, Single(std::floor(left) + 5));
-  EXPECT_EQ(form.shpExplode5.Left, Single(std::floor(left + Single(0.999) * 300) - 2.5));
-  Advance(300);
-  EXPECT_FALSE(form.Image8.Visible) << "the flames go after 400 ms";
-}
-
 }  // namespace
 }  // namespace quintara

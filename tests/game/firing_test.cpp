@@ -98,20 +98,14 @@ TEST_F(FiringTest, FiveShellsAndTheBonusShell) {
   EXPECT_EQ(UserClicks(form.Image7), InputResult::NoTarget);
 }
 
-TEST_F(FiringTest, TheRingLightsUpUnderThePointer) {
-  UserMovesOnto(form.Image7);
-  EXPECT_EQ(form.Shape5.BorderColor.Get(), Colour(0xFFFFFF));
-  UserMovesOnto(form.Picture8);
-  EXPECT_EQ(form.Shape5.BorderColor.Get(), Colour(0x808080));
-  UserMovesOnto(form.Image7);
-  form.cmdReset.Enabled = true;
-  UserMovesOnto(form.cmdReset);
-  EXPECT_EQ(form.Shape5.BorderColor.Get(), Colour(0x808080));
-  form.Image7.Enabled = false;
-  form.Shape5.BorderColor = 0xFFFFFF;
-  UserMovesOnto(form.Image7);
-  EXPECT_EQ(form.Shape5.BorderColor.Get(), Colour(0x808080))
-      << "a dead button lets the pointer through to the console";
+TEST_F(FiringTest, TheRingIsLitWhileThePointerIsOnTheButton) {
+  for (Object* other : {static_cast<Object*>(&form.Picture8), static_cast<Object*>(&form.cmdReset)}) {
+    form.cmdReset.Enabled = true;
+    UserMovesOnto(form.Image7);
+    EXPECT_EQ(form.Shape5.BorderColor.Get(), Colour(0xFFFFFF));
+    UserMovesOnto(*other);
+    EXPECT_EQ(form.Shape5.BorderColor.Get(), Colour(0x808080)) << other->name();
+  }
 }
 
 TEST_F(FiringTest, ASilencedGunFiresAllTheSame) {

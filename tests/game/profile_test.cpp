@@ -42,7 +42,7 @@ TEST_F(ProfileTest, TheFlightTimeSettingSurvivesAReset) {
   UserDragsTo(form.HScroll1, 7);
   form.cmdReset.Enabled = true;
   Click(form.cmdReset);
-  EXPECT_EQ(Bytes("extra.txt").substr(40), "7         ");
+  EXPECT_EQ(folder.Bytes("extra.txt").substr(40), "7         ");
   form.HScroll1.Value = 9;
   OpenProfile();
   EXPECT_EQ(form.HScroll1.Value, 7);

@@ -1,5 +1,3 @@
-#include <fstream>
-
 #include "tests/host/host_test.h"
 
 namespace quintara::host {
@@ -101,7 +99,7 @@ TEST_F(PropertiesTest, ABitmapOfTheDataFolderIsLoaded) {
   std::filesystem::create_directory(folder.path() / "Graphics");
   std::string bitmap = "BM" + std::string(28, '\0');
   bitmap[18] = bitmap[22] = 8;
-  std::ofstream(folder.path() / "Graphics" / "hill.bmp", std::ios::binary) << bitmap;
+  folder.Put("Graphics/hill.bmp", bitmap);
   EXPECT_EQ(Say(R"(set Quintara.Picture4.Picture "Graphics\\hill.bmp")"), "ok\n");
   EXPECT_EQ(Get("Quintara.Picture4.Picture"), "\"Graphics\\\\hill.bmp\"");
   EXPECT_TRUE(form.Picture4.Picture.Get().isFile);

@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 #include <sstream>
 
 #include "host/session.h"
@@ -12,11 +10,6 @@ namespace quintara::host {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string BytesOf(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
 
 // Plays NAME.script on a fresh data folder, every chance queued, and holds each line against NAME.transcript.
 // Renew that, after a change that is meant, with quintara-host FOLDER <NAME.script >NAME.transcript, FOLDER

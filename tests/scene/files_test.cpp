@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <fstream>
-#include <iterator>
 
 #include "tests/support/recording_platform.h"
 
@@ -17,13 +15,8 @@ using Lines = std::vector<std::string>;
 class FilesTest : public ::testing::Test {
  protected:
   std::string In(const std::string& name) const { return folder.text() + "\\" + name; }
-  std::string Bytes(const std::string& name) const {
-    std::ifstream file(folder.path() / name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
-  void Put(const std::string& name, const std::string& bytes) const {
-    std::ofstream(folder.path() / name, std::ios::binary) << bytes;
-  }
+  std::string Bytes(const std::string& name) const { return folder.Bytes(name); }
+  void Put(const std::string& name, const std::string& bytes) const { folder.Put(name, bytes); }
   std::size_t Entries() const {
     return static_cast<std::size_t>(
         std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator()));

@@ -28,41 +28,17 @@ TEST_F(FormTest, TheFirstTouchLoadsAndShowShows) {
   EXPECT_EQ(other.Caption, "touched");
 }
 
-TEST_F(FormTest, UnloadingRestoresTheStartValuesAndKeepsTheFormsVariables) {
-  other.Touch();  // with the last form the program would end
-  form.member = 42;
-  form.Caption = "changed";
-  form.Width = 100.0;
-  form.ScaleMode = 3;
-  form.Line1.Load(3);
-  form.Ruler.X1 = 77;
-  form.Names.AddItem("entry");
-  EXPECT_EQ(form.Names.List(0) + form.Names.List(-1) + form.Names.List(1), "entry");
-  form.Document.TextRTF = "{\\rtf1 text}";
-  form.Picture1.PSet(10, 10);
-  form.Entry.SetFocus();
-  const TrialForm fresh{scene, "Fresh"};
-  form.Unload();
-  EXPECT_FALSE(form.loaded());
-  form.Touch();
-  EXPECT_EQ(form.loads, 2);
-  EXPECT_EQ(form.member, 42);
-  EXPECT_EQ(form.Caption, "Trial");
-  EXPECT_EQ(form.Width, 9090.0);
-  EXPECT_EQ(form.ScaleMode, 1);
-  EXPECT_EQ(form.objects().size(), fresh.objects().size());
-  EXPECT_EQ(form.children().size(), fresh.children().size());
-  EXPECT_EQ(form.Ruler.X1, 0);
-  EXPECT_EQ(form.Names.ListCount(), 0);
-  EXPECT_EQ(form.Document.PlainText(), "");
-  EXPECT_TRUE(form.Picture1.dots().empty());
-  EXPECT_EQ(form.focus(), nullptr);
-  EXPECT_FALSE(form.IsVisible());
-}
-
-TEST_F(FormTest, UnloadedAndTouchedAgainInsideItsOwnHandler) {
+TEST_F(FormTest, UnloadedAndTouchedAgainInsideItsOwnHandlerItHasItsStartValues) {
   FormHandle<TrialForm> self(other);
   other.Show();
+  other.member = 42;
+  other.ScaleMode = 3;
+  other.Line1.Load(3);
+  other.Names.AddItem("entry");
+  EXPECT_EQ(other.Names.List(0) + other.Names.List(-1) + other.Names.List(1), "entry");
+  other.Document.TextRTF = "{\\rtf1 text}";
+  other.Picture1.PSet(10, 10);
+  other.Entry.SetFocus();
   other.Push.Click.Bind([&] {
     other.Push.Caption = "before";
     self.Unload();
@@ -71,11 +47,18 @@ TEST_F(FormTest, UnloadedAndTouchedAgainInsideItsOwnHandler) {
   platform.log.clear();
   EXPECT_EQ(UserClicks(other.Push), InputResult::Done);
   EXPECT_EQ(platform.log, Log{"unload Other"});
-  EXPECT_TRUE(other.loaded());
-  EXPECT_FALSE(other.IsVisible());
+  EXPECT_TRUE(other.loaded() && !other.IsVisible());
   EXPECT_EQ(other.loads, 2);
+  EXPECT_EQ(other.member, 42) << "the form's own variables are kept";
   EXPECT_EQ(other.Push.Caption, "Push");
   EXPECT_FALSE(other.Push.Enabled);
+  EXPECT_EQ(other.ScaleMode, 1);
+  EXPECT_EQ(other.objects().size(), form.objects().size());
+  EXPECT_EQ(other.children().size(), form.children().size());
+  EXPECT_EQ(other.Names.ListCount(), 0);
+  EXPECT_EQ(other.Document.PlainText(), "");
+  EXPECT_TRUE(other.Picture1.dots().empty());
+  EXPECT_EQ(other.focus(), nullptr);
 }
 
 TEST_F(FormTest, TheProgramEndsWithTheLastForm) {

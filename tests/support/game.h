@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <string>
 
 #include "program/program.h"
@@ -51,11 +49,6 @@ struct RunningGame {
     form.gPosY = std::max(y, 0.0) + 1;
     form.gVy = (y - form.gPosY + 4.9 * dt * dt) / dt + 9.8 * dt;
     Advance(17);
-  }
-
-  std::string Bytes(const std::string& name) const {
-    std::ifstream file(folder.path() / name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
   }
 };
 

@@ -2,6 +2,8 @@
 
 #include <deque>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -56,6 +58,14 @@ class RecordingPlatform : public Platform {
   std::uint64_t seed_ = 0;
 };
 
+inline std::string BytesOf(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+inline void Put(const std::filesystem::path& path, const std::string& bytes) {
+  std::ofstream(path, std::ios::binary) << bytes;
+}
+
 // A folder of its own for a test, gone with it.
 class TemporaryFolder {
  public:
@@ -74,6 +84,8 @@ class TemporaryFolder {
 
   const std::filesystem::path& path() const { return path_; }
   std::string text() const { return path_.string(); }
+  std::string Bytes(const std::string& name) const { return BytesOf(path_ / name); }
+  void Put(const std::string& name, const std::string& bytes) const { quintara::Put(path_ / name, bytes); }
 
  private:
   std::filesystem::path path_;
