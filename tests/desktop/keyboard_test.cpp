@@ -82,30 +82,23 @@ TEST_F(KeyboardTest, TheControlWithTheFocusIsMarked) {
 
 TEST_F(KeyboardTest, BarsGoTheWayOfTheKeysWhicheverEndIsTheLarger) {
   OpenProfile();
-  const auto press = [&](auto& bar, Qt::Key key, int value) {
+  const auto press = [&](auto& bar, std::initializer_list<std::pair<Qt::Key, int>> keys) {
     WidgetOf(bar).setFocus();
-    Press(key);
-    EXPECT_EQ(bar.Value, value) << bar.name();
+    for (const auto& [key, value] : keys) {
+      Press(key);
+      EXPECT_EQ(bar.Value, value) << bar.name();
+    }
   };
-  press(main.VScroll1, Qt::Key_Up, 339);
-  press(main.VScroll1, Qt::Key_PageUp, 329);
-  press(main.VScroll1, Qt::Key_Down, 330);
+  press(main.VScroll1, {{Qt::Key_Up, 339}, {Qt::Key_PageUp, 329}, {Qt::Key_Down, 330}});
   EXPECT_EQ(main.Label1.Caption, "40") << "the handler ran";
-  press(main.VScroll2, Qt::Key_Up, 260);
-  press(main.VScroll2, Qt::Key_Home, 750);
-  press(main.VScroll2, Qt::Key_PageDown, 740);
-  press(main.HScroll1, Qt::Key_Left, 14);
-  press(main.HScroll1, Qt::Key_PageUp, 13);
-  press(main.HScroll1, Qt::Key_End, 15);
-
+  press(main.VScroll2, {{Qt::Key_Up, 260}, {Qt::Key_Home, 750}, {Qt::Key_PageDown, 740}});
+  press(main.HScroll1, {{Qt::Key_Left, 14}, {Qt::Key_PageUp, 13}, {Qt::Key_End, 15}});
   TrajectoryForm& trajectory = program.trajectory();
   Open(trajectory);
   Do([&] { trajectory.Slider1.Value = 50; });
-  press(trajectory.Slider1, Qt::Key_PageUp, 45);
-  press(trajectory.Slider1, Qt::Key_Left, 44);
-  press(trajectory.Slider1, Qt::Key_Up, 43);
-  press(trajectory.Slider1, Qt::Key_PageDown, 48);
-  press(trajectory.HScroll1, Qt::Key_Right, 349);
+  press(trajectory.Slider1,
+        {{Qt::Key_PageUp, 45}, {Qt::Key_Left, 44}, {Qt::Key_Up, 43}, {Qt::Key_PageDown, 48}});
+  press(trajectory.HScroll1, {{Qt::Key_Right, 349}});
 }
 
 TEST_F(KeyboardTest, SpaceAndEnterPressWhatHasTheFocus) {
@@ -129,13 +122,10 @@ TEST_F(KeyboardTest, SpaceAndEnterPressWhatHasTheFocus) {
 
 TEST_F(KeyboardTest, LettersWorkTheConsoleAndNotWhatCannotBeUsed) {
   Names heard;
-  const auto note = [&](Event<>& event, const char* what) {
-    event.Bind([&heard, what] { heard.push_back(what); });
-  };
-  note(main.cmdSearch.Click, "search");
-  note(main.Image7.Click, "fire");
-  note(main.cmdReset.Click, "reset");
-  note(main.cmdSound.Click, "sound");
+  main.cmdSearch.Click.Bind([&] { heard.push_back("search"); });
+  main.Image7.Click.Bind([&] { heard.push_back("fire"); });
+  main.cmdReset.Click.Bind([&] { heard.push_back("reset"); });
+  main.cmdSound.Click.Bind([&] { heard.push_back("sound"); });
   for (const auto modifier : {Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier})
     Press(Qt::Key_S, modifier);
   for (const Qt::Key key : {Qt::Key_F, Qt::Key_R, Qt::Key_O}) Press(key);

@@ -23,21 +23,27 @@ class PaintingTest : public WindowTest {
     const QImage screen = window().screen()->grabWindow(window().winId()).toImage();
     return window().grab().toImage().convertToFormat(screen.format()) == screen;
   }
+  struct Spot {
+    int left, top;
+    QColor colour;
+  };
+  void ExpectColours(std::initializer_list<Spot> spots) {
+    for (const auto& [left, top, colour] : spots)
+      EXPECT_EQ(ColourAt(left, top), colour) << left << ", " << top;
+  }
 };
 
 TEST_F(PaintingTest, WhatHasASurfaceHidesWhatLiesBehind) {
-  EXPECT_EQ(ColourAt(150, 2700), green);
-  EXPECT_EQ(ColourAt(150, 660), red);
-  EXPECT_EQ(ColourAt(1000, 660), blue) << "a box hides the labels of its container";
-  EXPECT_EQ(ColourAt(1200, 1050), blue) << "the box listed first is in front";
-  EXPECT_EQ(ColourAt(2000, 1050), white);
-  EXPECT_EQ(ColourAt(1650, 1650), yellow);
-  EXPECT_EQ(ColourAt(1950, 1650), white) << "a box clips what it holds";
-  EXPECT_EQ(ColourAt(2250, 2100), red);
-
+  ExpectColours({{150, 2700, green},
+                 {150, 660, red},
+                 {1000, 660, blue},   // a box hides the labels of its container
+                 {1200, 1050, blue},  // the box listed first is in front
+                 {2000, 1050, white},
+                 {1650, 1650, yellow},
+                 {1950, 1650, white},  // a box clips what it holds
+                 {2250, 2100, red}});
   Do([&] { form.picFront.Visible = false; });
-  EXPECT_EQ(ColourAt(1000, 660), red);
-  EXPECT_EQ(ColourAt(1200, 1050), white);
+  ExpectColours({{1000, 660, red}, {1200, 1050, white}});
 }
 
 TEST_F(PaintingTest, ChangesAreRepaintedAndLeaveNothingBehind) {
@@ -53,9 +59,7 @@ TEST_F(PaintingTest, ChangesAreRepaintedAndLeaveNothingBehind) {
     form.Line1(1).Visible = true;
   });
   EXPECT_TRUE(ScreenIsUpToDate());
-  EXPECT_EQ(ColourAt(1650, 1650), blue);
-  EXPECT_EQ(ColourAt(700, 1700), yellow);
-  EXPECT_EQ(ColourAt(4500, 1500), red) << "the loaded line";
+  ExpectColours({{1650, 1650, blue}, {700, 1700, yellow}, {4500, 1500, red}});
 
   Do([&] {
     form.Line1.Unload(1);
@@ -63,8 +67,7 @@ TEST_F(PaintingTest, ChangesAreRepaintedAndLeaveNothingBehind) {
     form.BackColor = 0x00FF0000;
   });
   EXPECT_TRUE(ScreenIsUpToDate());
-  EXPECT_EQ(ColourAt(4500, 1500), white);
-  EXPECT_EQ(ColourAt(3210, 510), blue);
+  ExpectColours({{4500, 1500, white}, {3210, 510, blue}});
 }
 
 TEST_F(PaintingTest, DotsStayUntilTheyAreWiped) {
@@ -75,17 +78,14 @@ TEST_F(PaintingTest, DotsStayUntilTheyAreWiped) {
   });
   Do([&] { form.picBack.PSet(1050, 750, Colour(0x0000FF00)); });
   EXPECT_TRUE(ScreenIsUpToDate());
-  EXPECT_EQ(ColourAt(2010, 1350), red);
-  EXPECT_EQ(ColourAt(1950, 1650), green);
-  EXPECT_EQ(ColourAt(150, 3000), red);
+  ExpectColours({{2010, 1350, red}, {1950, 1650, green}, {150, 3000, red}});
 
   Do([&] {
     form.picBack.Cls();
     form.picBack.PSet(300, 450, Colour(0x000000FF));
   });
   EXPECT_TRUE(ScreenIsUpToDate());
-  EXPECT_EQ(ColourAt(2010, 1350), white);
-  EXPECT_EQ(ColourAt(150, 3000), red) << "another surface";
+  ExpectColours({{2010, 1350, white}, {150, 3000, red}});  // another surface
 }
 
 TEST_F(PaintingTest, PlacesBeyondAllBoundsAreHarmless) {

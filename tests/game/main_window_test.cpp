@@ -27,7 +27,7 @@ TEST_F(MainWindowTest, DrawsTheFragmentWidths) {
 }
 
 TEST_F(MainWindowTest, StoresTheFlightTimeSettingAtEachStart) {
-  std::ofstream(folder.path() / "extra.txt") << std::string(40, '#') << "7         ";
+  folder.Put("extra.txt", std::string(40, '#') + "7         ");
   Start();
   EXPECT_EQ(folder.Bytes("extra.txt"), std::string(40, '#') + "15        ");
 }

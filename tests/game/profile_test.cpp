@@ -57,7 +57,7 @@ TEST_F(ProfileTest, AnEditedRecordGivesTheNearestBound) {
   for (const auto& [record, value] : cases) {
     RunningGame game;
     game.Start();
-    std::ofstream(game.folder.path() / "extra.txt", std::ios::binary) << std::string(40, ' ') << record;
+    game.folder.Put("extra.txt", std::string(40, ' ') + record);
     game.OpenProfile();
     EXPECT_EQ(game.form.HScroll1.Value, value) << record;
   }

@@ -35,5 +35,13 @@ TEST_F(SessionTest, LongLines) {
   EXPECT_EQ(Say("#" + text + text + "\ntime"), "0\nok\n");
 }
 
+TEST_F(SessionTest, TheWorldOutsideIsAlwaysTheSame) {
+  EXPECT_EQ(platform.ProgramFolder(), folder.text());
+  EXPECT_EQ(HostPlatform("/", out).ProgramFolder(), "/");
+  EXPECT_NE(platform.Seed(), platform.Seed());
+  EXPECT_EQ(platform.ScreenWidth(), 28800);
+  EXPECT_EQ(platform.ScreenHeight(), 16200);
+}
+
 }  // namespace
 }  // namespace quintara::host
