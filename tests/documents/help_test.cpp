@@ -106,19 +106,11 @@ TEST_F(HelpTest, AMissingDocumentIsNamedInItsBox) {
   EXPECT_EQ(form.txtReadme.PlainText(), "The document Readme.rtf could not be read.");
 }
 
-TEST_F(HelpTest, AboutAndUninstall) {
+TEST_F(HelpTest, ClosingTheMainFormUnloadsTheOthersInTheirOrder) {
   Choose("mnuAbout");
   Click(program.about().cmdOK);
   EXPECT_FALSE(program.about().loaded());
-  platform.log.clear();
-  Choose("mnuUninstall");
-  ASSERT_EQ(platform.log.size(), 1u);
-  EXPECT_EQ(platform.log[0].substr(0, 40), "box To uninstall Quintara and all it's a");
-  EXPECT_EQ(form.gMsgResult, "1");
-}
-
-TEST_F(HelpTest, ClosingTheMainFormUnloadsTheOthersInTheirOrder) {
-  program.about().Show();
+  Choose("mnuAbout");
   Choose("mnuPhysics");
   program.masters().Show();
   Click(analysis.cmdTrajectory);

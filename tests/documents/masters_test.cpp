@@ -44,20 +44,6 @@ TEST_F(MastersTest, EnterSavesTheListWithATitleFrom35PointsOn) {
   EXPECT_EQ(platform.log, std::vector<std::string>{"show frmMasters"}) << "no gong";
 }
 
-TEST_F(MastersTest, RemovesAllNamesAfterAYes) {
-  Put("one\r\ntwo\r\n");
-  masters.Show();
-  platform.boxAnswers = {7, 6};
-  Click(masters.cmdRemove);
-  EXPECT_EQ(masters.List1.ListCount(), 2);
-  EXPECT_EQ(form.gMsgResult, "7");
-  Click(masters.cmdRemove);
-  EXPECT_EQ(masters.List1.ListCount(), 0);
-  EXPECT_EQ(folder.Bytes("Masters.txt"), "");
-  EXPECT_EQ(platform.log.back(),
-            "box Are you sure you want to erase all names from the Quintara Master list?");
-}
-
 TEST_F(MastersTest, AFreshWindowReadsTheFileAfresh) {
   masters.Show();
   EXPECT_EQ(masters.List1.ListCount(), 0);

@@ -26,21 +26,6 @@ TEST_F(MainWindowTest, DrawsTheFragmentWidths) {
   EXPECT_EQ(form.shpExplode5.Height, 80) << "the height stays";
 }
 
-TEST_F(MainWindowTest, StoresTheFlightTimeSettingAtEachStart) {
-  folder.Put("extra.txt", std::string(40, '#') + "7         ");
-  Start();
-  EXPECT_EQ(folder.Bytes("extra.txt"), std::string(40, '#') + "15        ");
-}
-
-TEST_F(MainWindowTest, TellsWhenTheSettingCannotBeStoredAndPlaysOn) {
-  std::filesystem::create_directory(folder.path() / "extra.txt");
-  program.Start();
-  ASSERT_EQ(platform.log.size(), 2u);
-  EXPECT_NE(platform.log[0].find("extra.txt"), std::string::npos);
-  EXPECT_EQ(platform.log[1], "show Quintara");
-  EXPECT_TRUE(std::filesystem::is_directory(folder.path() / "extra.txt"));
-}
-
 TEST(AppFolder, EndsInOneSeparator) {
   const struct {
     std::string path, joined;

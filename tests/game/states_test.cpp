@@ -13,6 +13,19 @@ class StatesTest : public ::testing::Test, protected RunningGame {
   void Miss() { FireTo(12000, -1); }
 };
 
+TEST_F(StatesTest, ResetTakesTheProfileDown) {
+  OpenProfile();
+  UserDragsTo(form.VScroll1, 300);
+  Miss();
+  const std::size_t objects = form.objects().size() - 2 * 33 - 2 * 16;
+  form.cmdReset.Enabled = true;
+  Click(form.cmdReset);
+  EXPECT_EQ(form.objects().size(), objects);
+  EXPECT_FALSE(form.Picture5.Visible || form.Picture8.Visible);
+  EXPECT_FALSE(form.Line24.Visible) << "though the nested Change has shown it";
+  EXPECT_EQ(form.Label25.Caption, "1") << "the game goes on";
+}
+
 TEST_F(StatesTest, ResetRunsTheChangeWithTheBonusShotOfBefore) {
   OpenProfile();
   for (int shell = 1; shell <= 5; ++shell) Miss();
