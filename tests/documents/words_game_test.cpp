@@ -32,32 +32,26 @@ TEST(DocumentTest, KeepsToWhatTheReaderKnows) {
 }
 
 // By and large: letters of Arial are half as wide as high, those of Courier New 0.6 times.
-double WidthOfLetter(const RichText& document, const RichTextLook& look) {
-  const bool even = document.fonts[look.font] == "Courier New";
-  return look.halfPoints * 10 * (even ? 0.6 : look.bold ? 0.55 : 0.5);
-}
-
 TEST(DocumentTest, KeepsTablesAndCodeWithinItsWindow) {
   constexpr int frame = 60, margins = 180, scrollBar = 255;
   for (const Document& file : documents) {
     const RichText document = ReadRichText(Source(file.file));
     for (const RichTextParagraph& paragraph : document.paragraphs) {
-      std::string line;
+      std::string line = file.file;
       std::vector<double> cells(1);
       bool isCode = false;
       for (const RichTextRun& run : paragraph.runs) {
-        line += run.text;
-        isCode = isCode || document.fonts[run.look.font] == "Courier New";
+        line += ": " + run.text;
+        const bool even = document.fonts[run.look.font] == "Courier New";
+        isCode = isCode || even;
+        const double letter = run.look.halfPoints * 10 * (even ? 0.6 : run.look.bold ? 0.55 : 0.5);
         for (const char c : run.text) {
-          if (c == '\t') {
-            cells.push_back(0);
-          } else if ((c & 0xC0) != 0x80) {
-            cells.back() += WidthOfLetter(document, run.look);
-          }
+          if (c == '\t') cells.push_back(0);
+          if (c != '\t' && (c & 0xC0) != 0x80) cells.back() += letter;
         }
       }
       if (cells.size() == 1 && !isCode) continue;
-      SCOPED_TRACE(std::string(file.file) + ": " + line);
+      SCOPED_TRACE(line);
       const RichTextFormat& format = paragraph.format;
       ASSERT_LE(cells.size() - 1, format.tabs.size());
       double end = format.leftIndent + cells[0];

@@ -54,37 +54,22 @@ TEST_F(ProjectileTest, BeepsAndEndsOfTheThreeRuns) {
   }
 }
 
-TEST_F(ProjectileTest, TheHandGoesWithTheBands) {
-  const struct {
-    CommandButton& ball;
-    std::vector<std::pair<int, int>> positions;  // at a tick
-  } runs[] = {{form.cmdBall1, {{8, 0}, {9, 1}, {28, 1}, {29, 2}, {145, 7}, {146, 8}}},
-              {form.cmdBall2, {{1, 1}, {20, 1}, {21, 2}, {79, 4}, {80, 5}, {119, 6}, {144, 7}, {145, 8}}},
-              {form.cmdBall3, {{1, 1}, {145, 8}}}};
-  for (const auto& [ball, positions] : runs) {
-    ExpectHand(0);
-    Click(ball);
-    int now = 0;
-    for (const auto& [tick, position] : positions) {
-      Ticks(tick - now);
-      now = tick;
-      ExpectHand(position);
-    }
-    Click(form.cmdReset);
-  }
-}
-
-TEST_F(ProjectileTest, TheRailIsMarkedAsTheBallGoesBy) {
+TEST_F(ProjectileTest, TheRailAndTheDialGoWithTheBall) {
   Click(form.cmdBall1);
   Ticks(8);
+  ExpectHand(0);
   EXPECT_FALSE(form.Line7(0).Visible || form.Label8(0).Visible);
-  Ticks(116);
+  Ticks(1);
+  ExpectHand(1);
+  Ticks(115);
   EXPECT_FALSE(form.Label7.Visible || form.cmdReset.Enabled);
   Ticks(1);
   EXPECT_TRUE(form.Label7.Visible && form.cmdReset.Enabled);
   Ticks(20);
+  ExpectHand(7);
   EXPECT_FALSE(form.Line7(7).Visible) << "between the last two bands";
   Ticks(1);
+  ExpectHand(8);
   for (std::int16_t k = 0; k < 8; ++k) {
     EXPECT_TRUE(form.Line7(k).Visible && form.Label8(k).Visible) << k;
     EXPECT_EQ(form.Label8(k).Caption, std::to_string(70 * (k + 1)));
@@ -109,6 +94,7 @@ TEST_F(ProjectileTest, TheFallIsMarkedWhereEachBandEnds) {
     Ticks(lastTick - tick);
     tick = lastTick;
     tops.push_back(form.Shape2.Top);
+    ExpectHand(k + 1);
     EXPECT_EQ(form.Label14.Caption, velocity);
     EXPECT_EQ(form.Label4(k).Caption, metres);
     EXPECT_EQ(form.Line9(0).Visible, k > 0) << "the mark of the start comes with that of the first second";
@@ -120,6 +106,7 @@ TEST_F(ProjectileTest, TheFallIsMarkedWhereEachBandEnds) {
   EXPECT_EQ(form.Label14.Caption, "= -58.8 m/s") << "too fast for every band, and not yet near the ground";
   Ticks(1);
   EXPECT_EQ(form.Label14.Caption, "= -68.6 m/s");
+  ExpectHand(8);
   EXPECT_FALSE(form.Line9(7).Visible || form.Label4(7).Visible);
   for (std::int16_t k = 0; k < 7; ++k) {
     const double top = tops[static_cast<std::size_t>(k)];
