@@ -173,27 +173,23 @@ TEST(RichTextTest, ShowsTableRowsAsTabbedLines) {
 
 TEST(RichTextTest, ShowsEachBulletOnce) {
   const std::string numbering = "{\\*\\pn\\pnlvlblt\\pnf1\\pnindent0{\\pntxtb\\'B7}}";
-  struct {
-    std::string body;
-    std::string shown;
-    std::string bullets;
-  } const cases[] = {
-      {"{\\pntext\\f1\\'B7\\tab}" + numbering + "a\\par{\\pntext\\f1\\'B7\\tab}b\\par\\pard c", "a\nb\nc",
-       "110"},
-      {numbering + "a\\par b\\par\\pard c\\par", "a\nb\nc", "110"},
-      {"{\\listtext\\pard\\plain o\\tab}a\\par b", "a\nb", "10"},
-      {"a\\par{\\listtext\\'B7\\tab}b", "a\nb", "01"},
+  const TextCase cases[] = {
+      {"{\\pntext\\f1\\'B7\\tab}" + numbering + "a\\par{\\pntext\\f1\\'B7\\tab}b\\par\\pard c", "*a|*b|c|"},
+      {numbering + "a\\par b\\par\\pard c\\par", "*a|*b|c|"},
+      {"{\\listtext\\pard\\plain o\\tab}a\\par b", "*a|b|"},
+      {"a\\par{\\listtext\\'B7\\tab}b", "a|*b|"},
       {"{\\fonttbl{\\f1 Symbol;}{\\f2 Wingdings 2;}}{\\listtext\\f1 p\\tab}a\\par{\\listtext\\f2 p\\tab}b",
-       "a\nb", "11"},
-      {"{\\pntext 1.\\tab}{\\*\\pn\\pnlvlbody\\pndec{\\pntxta.}}a\\par", "1.\ta", "0"},
-      {"{" + numbering + "a\\par}b", "a\nb", "10"}};
-  for (const auto& each : cases) {
-    const RichText document = ReadBody(each.body);
-    std::string bullets;
-    for (const RichTextParagraph& paragraph : document.paragraphs)
-      bullets += paragraph.format.bullet ? '1' : '0';
-    EXPECT_EQ(document.PlainText(), each.shown) << each.body;
-    EXPECT_EQ(bullets, each.bullets) << each.body;
+       "*a|*b|"},
+      {"{\\pntext 1.\\tab}{\\*\\pn\\pnlvlbody\\pndec{\\pntxta.}}a\\par", "1.\ta|"},
+      {"{" + numbering + "a\\par}b", "*a|b|"}};
+  for (const TextCase& each : cases) {
+    std::string shown;
+    for (const RichTextParagraph& paragraph : ReadBody(each.body).paragraphs) {
+      shown += paragraph.format.bullet ? "*" : "";
+      for (const RichTextRun& run : paragraph.runs) shown += run.text;
+      shown += '|';
+    }
+    EXPECT_EQ(shown, each.shown) << each.body;
   }
 }
 
