@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QtCore/QTimer>
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
@@ -10,6 +9,7 @@
 #include <QtWidgets/QTextEdit>
 
 #include "tests/desktop/game_windows.h"
+#include "tests/desktop/when_open.h"
 
 namespace quintara::desktop {
 namespace {
@@ -18,15 +18,6 @@ using Objects = std::initializer_list<const Object*>;
 
 class KeyboardTest : public GameWindows {
  protected:
-  // Presses Escape once a menu is open; returns whether one was.
-  void DismissMenu(bool& wasOpen, int tries = 200) {
-    QTimer::singleShot(5, &WindowOf(main), [this, &wasOpen, tries] {
-      auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-      wasOpen = menu != nullptr;
-      if (wasOpen) return QTest::keyClick(menu, Qt::Key_Escape);
-      if (tries > 0) DismissMenu(wasOpen, tries - 1);
-    });
-  }
   void ExpectTabOrder(Form& form, const Names& names) { EXPECT_EQ(TabOrder(form), names) << form.name(); }
 };
 
@@ -153,7 +144,10 @@ TEST_F(KeyboardTest, HelpOpensFromEveryWindow) {
        {std::pair<Form*, Qt::Key>{&main, Qt::Key_H}, {&program.trajectory(), Qt::Key_F1}}) {
     Open(*form);
     bool opened = false;
-    DismissMenu(opened);
+    WhenOpen<QMenu>(WindowOf(*form), [&](QMenu& menu) {
+      QTest::keyClick(&menu, Qt::Key_Escape);
+      opened = true;
+    });
     Press(key);
     EXPECT_TRUE(opened) << form->name();
   }

@@ -1,14 +1,13 @@
 #include <gtest/gtest.h>
 
 #include <QtCore/QThread>
-#include <QtCore/QTimer>
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 
 #include <stdexcept>
 
+#include "tests/desktop/when_open.h"
 #include "tests/desktop/window_form.h"
 
 namespace quintara::desktop {
@@ -16,16 +15,6 @@ namespace {
 
 class SessionTest : public WindowTest {
  protected:
-  // Looks again and again until a box or menu of that kind is open, and does something to it.
-  template <typename Widget>
-  void WhenOpen(std::function<void(Widget&)> action) {
-    QTimer::singleShot(5, &window(), [this, action] {
-      QWidget* open = QApplication::activePopupWidget();
-      if (open == nullptr) open = QApplication::activeModalWidget();
-      if (auto* widget = qobject_cast<Widget*>(open)) return action(*widget);
-      WhenOpen<Widget>(action);
-    });
-  }
   bool WaitForTicks(int wanted) {
     return QTest::qWaitFor([&] { return ticks >= wanted; }, 5000);
   }
@@ -62,7 +51,7 @@ TEST_F(SessionTest, AMessageBoxHoldsTheTicks) {
   std::int32_t answer = 0;
   form.tmrClock.Tick.Bind([&] { ++ticks; });
   StartClock(10);
-  WhenOpen<QMessageBox>([&](QMessageBox& box) {
+  WhenOpen<QMessageBox>(window(), [&](QMessageBox& box) {
     EXPECT_EQ(box.windowTitle(), "Title");
     EXPECT_EQ(ColourAt(3210, 510), QColor(255, 0, 0)) << "what the handler did so far shows";
     const int before = ticks;
@@ -83,7 +72,7 @@ TEST_F(SessionTest, AMessageBoxHoldsTheTicks) {
 TEST_F(SessionTest, APopupMenuGivesTheChosenItem) {
   Note(form.mnuTwo.Click, "two");
   bool chosen = false;
-  WhenOpen<QMenu>([&](QMenu& menu) {
+  WhenOpen<QMenu>(window(), [&](QMenu& menu) {
     EXPECT_EQ(menu.actions().size(), 3);
     EXPECT_EQ(menu.pos(), window().mapToGlobal(Pixel(1500, 750)));
     QTest::keyClick(&menu, Qt::Key_Up);
@@ -92,7 +81,7 @@ TEST_F(SessionTest, APopupMenuGivesTheChosenItem) {
   Do([&] { chosen = form.PopupMenu(form.mnuTop, 1500, 750); });
   EXPECT_TRUE(chosen);
   EXPECT_EQ(heard, Heard{"two"});
-  WhenOpen<QMenu>([&](QMenu& menu) { QTest::keyClick(&menu, Qt::Key_Escape); });
+  WhenOpen<QMenu>(window(), [&](QMenu& menu) { QTest::keyClick(&menu, Qt::Key_Escape); });
   Do([&] { chosen = form.PopupMenu(form.mnuTop, 0, 0); });
   EXPECT_FALSE(chosen);
 }
@@ -145,7 +134,7 @@ TEST_F(SessionTest, WindowsStandWhereTheFormsSay) {
 TEST_F(SessionTest, AFaultInAHandlerIsToldAndTheGameGoesOn) {
   form.cmdPush.Click.Bind([&] { form.Line1(7).Visible = true; });
   QString told;
-  WhenOpen<QMessageBox>([&](QMessageBox& box) {
+  WhenOpen<QMessageBox>(window(), [&](QMessageBox& box) {
     told = box.text();
     box.accept();
   });

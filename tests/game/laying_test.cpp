@@ -106,6 +106,9 @@ TEST_F(LayingTest, TheBonusShotPlotsItsTrajectory) {
   EXPECT_EQ(form.ScaleHeight, 11100);
   EXPECT_EQ(form.Picture5.Surface().height, 9250) << "the view does not move with the form's new scale";
   EXPECT_EQ(form.Picture5.Height, Single(9250 * 11100 / 10695.0));
+  EXPECT_EQ(form.Label4.Caption,
+            " Adjust Muzzle Elevation Angle       and Muzzle Velocity, then click      the red FIRE button. "
+            "Be sure that   the trajectory clears the mountain");
   ASSERT_FALSE(form.Picture5.dots().empty());
   EXPECT_NEAR(form.Picture5.dots().front().x, 500 * 0.866 * 0.885 * 0.438, 0.1);
   const std::size_t dots = form.Picture5.dots().size();

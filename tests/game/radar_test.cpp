@@ -80,6 +80,7 @@ TEST_F(RadarTest, LocksOnOnceTheTargetIsLowAndBelowTheOpenPanel) {
     game.Advance(1);
     EXPECT_TRUE(game.form.cmdMagnify.Enabled) << altitude;
     EXPECT_TRUE(game.form.Label5.Caption.Get().starts_with(" Target at " + std::string(range)));
+    EXPECT_TRUE(game.form.Label4.Caption.Get().starts_with(" Click Magnify (M) to display "));
   }
 }
 

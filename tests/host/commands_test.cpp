@@ -91,11 +91,14 @@ TEST_F(CommandsTest, BoxesTakeTheAnswersInTheirOrder) {
   Say("answer box 6\nanswer box 3");
   for (const char* answer : {"6", "3", "1"}) {
     const std::string reply = Say("answer menu mnuUninstall\nclick Quintara.cmdHelp");
+    EXPECT_NE(reply.find("! box \"To uninstall Quintara and all it's a"), std::string::npos);
     EXPECT_TRUE(reply.ends_with(" 48 \"Uninstall Quintara\" -> " + std::string(answer) + "\nok\n")) << reply;
   }
   Choose("mnuMasters");
   program.masters().List1.AddItem("Ada");
-  EXPECT_TRUE(Say("click frmMasters.cmdRemove").ends_with(" 52 \"Removing names\" -> 7\nok\n"));
+  EXPECT_EQ(Say("click frmMasters.cmdRemove"),
+            "! box \"Are you sure you want to erase all names from the Quintara Master list?\" 52 "
+            "\"Removing names\" -> 7\nok\n");
   EXPECT_EQ(Get("frmMasters.List1.ListCount"), "1") << "a script that forgot an answer destroys nothing";
   ExpectRefused("answer box|answer box x|answer door 1|answer box 2147483648");
 }
