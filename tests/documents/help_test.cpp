@@ -45,9 +45,10 @@ TEST_F(HelpTest, EachTopicLaysTheWindowOutAnew) {
     EXPECT_EQ(analysis.Caption, row.caption);
     EXPECT_EQ(analysis.rtbMath.PlainText(), row.text);
     EXPECT_TRUE(analysis.Left == row.left && analysis.Top == row.top && analysis.Height == row.height);
-    EXPECT_EQ(analysis.cmdTrajectory.Visible, row.demonstrations);
-    EXPECT_EQ(analysis.cmdFreeFall.Visible, row.demonstrations);
-    EXPECT_EQ(form.Label28.Visible, row.placeNames);
+    for (const CommandButton* button : {&analysis.cmdTrajectory, &analysis.cmdFreeFall})
+      EXPECT_EQ(button->Visible, row.demonstrations) << row.item;
+    for (const Label* name : {&form.Label28, &form.Label29})
+      EXPECT_EQ(name->Visible, row.placeNames) << row.item;
   }
 }
 

@@ -96,5 +96,15 @@ TEST_F(CollisionTest, APreviewInFlightSendsTheShellIntoTheGround) {
   EXPECT_FALSE(form.tmrShell.Enabled);
 }
 
+TEST_F(CollisionTest, AHitBurnsFor400Milliseconds) {
+  FireTo(22052, -1);
+  EXPECT_TRUE(form.Image8.Visible && form.Shape1(0).Visible);
+  EXPECT_FALSE(form.Image5.Visible || form.Label11.Visible || form.Label23.Visible || form.Image7.Enabled);
+  Advance(399);
+  EXPECT_TRUE(form.Image8.Visible);
+  Advance(1);
+  EXPECT_FALSE(form.Image8.Visible);
+}
+
 }  // namespace
 }  // namespace quintara
