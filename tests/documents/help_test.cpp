@@ -44,7 +44,8 @@ TEST_F(HelpTest, EachTopicLaysTheWindowOutAnew) {
     platform.log.clear();
     EXPECT_EQ(analysis.Caption, row.caption);
     EXPECT_EQ(analysis.rtbMath.PlainText(), row.text);
-    EXPECT_TRUE(analysis.Left == row.left && analysis.Top == row.top && analysis.Height == row.height);
+    EXPECT_TRUE(analysis.Left == row.left && analysis.Top == row.top && analysis.Height == row.height)
+        << row.item;
     for (const CommandButton* button : {&analysis.cmdTrajectory, &analysis.cmdFreeFall})
       EXPECT_EQ(button->Visible, row.demonstrations) << row.item;
     for (const Label* name : {&form.Label28, &form.Label29})
@@ -109,6 +110,8 @@ TEST_F(HelpTest, AMissingDocumentIsNamedInItsBox) {
 
 TEST_F(HelpTest, ClosingTheMainFormUnloadsTheOthersInTheirOrder) {
   Choose("mnuAbout");
+  EXPECT_EQ(program.about().Left, (28800.0 - 4395) / 2);
+  EXPECT_EQ(program.about().Top, (16200.0 - 1965) / 2);
   Click(program.about().cmdOK);
   EXPECT_FALSE(program.about().loaded());
   Choose("mnuAbout");

@@ -83,6 +83,7 @@ TEST_F(MastersTest, TheWindowFromTheHelpMenuOffersNothing) {
   Click(form.cmdHelp);
   EXPECT_FALSE(masters.Picture1.Visible);
   EXPECT_EQ(masters.Left, (28800.0 - 11175) / 2);
+  EXPECT_EQ(masters.Top, (16200.0 - 9360) / 2);
 }
 
 }  // namespace

@@ -49,15 +49,12 @@ class TrialForm : public Form {
   Menu mnuDivider{mnuTop, "mnuDivider", {.caption = "-", .enabled = false}};
   Menu mnuOff{mnuTop, "mnuOff", {.caption = "Off", .enabled = false}};
 
-  std::function<void()> onLoad, onQueryUnload;
+  std::function<void()> onQueryUnload;
   int loads = 0;
   int member = 0;  // keeps its value when the form is unloaded
 
  private:
-  void Form_Load() {
-    ++loads;
-    if (onLoad) onLoad();
-  }
+  void Form_Load() { ++loads; }
   void Form_QueryUnload() {
     if (onQueryUnload) onQueryUnload();
   }
