@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -70,10 +71,11 @@ inline void Put(const std::filesystem::path& path, const std::string& bytes) {
 class TemporaryFolder {
  public:
   TemporaryFolder() {
-    // Tests run side by side: the folder is whichever number is still free.
+    // Tests run side by side, and a number that is taken may be given back this very moment.
     const std::string stem = (std::filesystem::temp_directory_path() / "quintara-test-").string();
-    for (int i = 0; !std::filesystem::create_directory(path_ = stem + std::to_string(i)); ++i) {
-    }
+    do {
+      path_ = stem + std::to_string(std::random_device{}());
+    } while (!std::filesystem::create_directory(path_));
   }
   TemporaryFolder(const TemporaryFolder&) = delete;
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
