@@ -1,48 +1,10 @@
-#include <QtCore/QDir>
-
-#include <cstdlib>
 #include <string_view>
 
-#include "desktop/application.h"
-#include "desktop/desktop_platform.h"
-#include "desktop/program_folders.h"
-#include "desktop/session.h"
+#include "desktop/game_main.h"
 #include "desktop/tour_main.h"
-#include "program/program.h"
-
-namespace {
-
-void TellIfMissing(const QString& folder, quintara::Platform& platform) {
-  if (QDir(folder).exists()) return;
-  constexpr std::int32_t okWithExclamation = 48;
-  const QString text =
-      "The folder \"%1\" is missing. The documents, the pictures of the radar and the sounds lie in it. "
-      "The game goes on without them.";
-  platform.ShowMessageBox(text.arg(QDir::toNativeSeparators(folder)).toStdString(), okWithExclamation,
-                          "Quintara");
-}
-
-}  // namespace
 
 int main(int argumentCount, char** arguments) {
-  using namespace quintara;
-  if (argumentCount > 1 && std::string_view(arguments[1]) == "--tour")
-    return desktop::RunTour(argumentCount, arguments);
-  desktop::Application application(argumentCount, arguments);
-  const desktop::ProgramFolders folders = desktop::FindFolders();
-  desktop::DesktopPlatform platform(folders);
-  TellIfMissing(folders.data, platform);
-
-  Program program(platform);
-  int result = 0;
-  {
-    desktop::Session session(program.scene());
-    platform.Attach(&session);
-    session.Run([&program] { program.Start(); });
-    if (!program.scene().ended()) result = desktop::Application::exec();
-    platform.Attach(nullptr);
-  }
-  // A sound server that does not answer would hold up the end of Qt's libraries for ever.
-  if (!platform.EndSounds()) std::_Exit(result);
-  return result;
+  using namespace quintara::desktop;
+  const bool isTour = argumentCount > 1 && std::string_view(arguments[1]) == "--tour";
+  return isTour ? RunTour(argumentCount, arguments) : RunGame(argumentCount, arguments);
 }

@@ -1,0 +1,48 @@
+#include "desktop/game_main.h"
+
+#include <QtCore/QDir>
+
+#include <cstdlib>
+
+#include "desktop/application.h"
+#include "desktop/desktop_platform.h"
+#include "desktop/program_folders.h"
+#include "desktop/session.h"
+#include "program/program.h"
+
+namespace quintara::desktop {
+namespace {
+
+void TellIfMissing(const QString& folder, Platform& platform) {
+  if (QDir(folder).exists()) return;
+  constexpr std::int32_t okWithExclamation = 48;
+  const QString text =
+      "The folder \"%1\" is missing. The documents, the pictures of the radar and the sounds lie in it. "
+      "The game goes on without them.";
+  platform.ShowMessageBox(text.arg(QDir::toNativeSeparators(folder)).toStdString(), okWithExclamation,
+                          "Quintara");
+}
+
+}  // namespace
+
+int RunGame(int argumentCount, char** arguments) {
+  Application application(argumentCount, arguments);
+  const ProgramFolders folders = FindFolders();
+  DesktopPlatform platform(folders);
+  TellIfMissing(folders.data, platform);
+
+  Program program(platform);
+  int result = 0;
+  {
+    Session session(program.scene());
+    platform.Attach(&session);
+    session.Run([&program] { program.Start(); });
+    if (!program.scene().ended()) result = Application::exec();
+    platform.Attach(nullptr);
+  }
+  // A sound server that does not answer would hold up the end of Qt's libraries for ever.
+  if (!platform.EndSounds()) std::_Exit(result);
+  return result;
+}
+
+}  // namespace quintara::desktop

@@ -1,0 +1,44 @@
+#include "host/host_main.h"
+
+#include <filesystem>
+#include <iostream>
+
+#include "host/session.h"
+#include "program/program.h"
+
+namespace quintara::host {
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path DataFolderBeside(const char* executable) {
+  // Where the system tells it, the true place is better: the executable may have been found by a bare name.
+  std::error_code error;
+  const fs::path self = fs::read_symlink("/proc/self/exe", error);
+  return (error ? fs::path(executable) : self).parent_path() / "data";
+}
+
+}  // namespace
+
+int RunHost(int argumentCount, char** arguments) {
+  constexpr int wrongCall = 2;
+  if (argumentCount > 2) {
+    std::cerr << "usage: quintara-host [DATA_FOLDER]\n";
+    return wrongCall;
+  }
+  const fs::path folder =
+      argumentCount == 2 ? fs::path(arguments[1]) : DataFolderBeside(argumentCount == 1 ? arguments[0] : "");
+  std::error_code error;
+  if (!fs::is_directory(folder, error)) {
+    std::cerr << "quintara-host: there is no folder " << folder.string() << '\n';
+    return wrongCall;
+  }
+  std::ios::sync_with_stdio(false);
+  HostPlatform platform(folder, std::cout);
+  Program program(platform);
+  Session session(program.scene(), platform, std::cout, [&program] { program.Start(); });
+  session.Run(std::cin);
+  return 0;
+}
+
+}  // namespace quintara::host

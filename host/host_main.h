@@ -1,0 +1,10 @@
+#pragma once
+
+namespace quintara::host {
+
+// quintara-host [DATA_FOLDER]: answers the commands of the standard input on the standard output, until
+// `quit` or the end of the input. The data folder is the one beside the executable unless another is named.
+// The exit status is 0, or 2 where the arguments are wrong; then a line on the standard error says why.
+int RunHost(int argumentCount, char** arguments);
+
+}  // namespace quintara::host
