@@ -43,8 +43,8 @@ std::optional<Wave> ReadWave(std::string_view file) {
   std::optional<Wave> wave = ReadFormat(Chunk(file, "fmt "));
   if (!wave) return std::nullopt;
   const std::string_view samples = Chunk(file, "data");
-  const auto frame = static_cast<std::size_t>(wave->channels * wave->bitsPerSample / 8);
-  wave->samples = samples.substr(0, samples.size() / frame * frame);
+  const auto bytesOfFrame = static_cast<std::size_t>(wave->channels * wave->bitsPerSample / 8);
+  wave->samples = samples.substr(0, samples.size() / bytesOfFrame * bytesOfFrame);
   if (wave->samples.empty()) return std::nullopt;
   return wave;
 }
