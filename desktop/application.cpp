@@ -48,7 +48,9 @@ void Application::TellFault(const QString& what) {
   qWarning("Quintara: %s", qPrintable(what));
   // Once is enough: a fault in a painting comes again with the next one.
   if (std::exchange(told_, true)) return;
-  QMessageBox::warning(activeWindow(), "Quintara", "Something went wrong: " + what + ". The game goes on.");
+  // The box belongs to no window: one in which something went wrong may be about to go, and would take it
+  // along.
+  QMessageBox::warning(nullptr, "Quintara", "Something went wrong: " + what + ". The game goes on.");
 }
 
 }  // namespace quintara::desktop

@@ -72,7 +72,8 @@ std::int32_t DesktopPlatform::ShowMessageBox(const std::string& text, std::int32
   constexpr std::int32_t buttonsMask = 0x0F, yesAndNo = 4, iconMask = 0xF0, exclamation = 48;
   constexpr std::int32_t chosenOk = 1, chosenYes = 6, chosenNo = 7;
   const bool asks = (style & buttonsMask) == yesAndNo;
-  QMessageBox box(QApplication::activeWindow());
+  // A box goes with the window that it belongs to.
+  QMessageBox box(session_ != nullptr ? session_->ActiveWindow() : nullptr);
   box.setFont(ToQFont(Font{}, ZoomOf(session_)));
   box.setWindowTitle(ToQString(title));
   box.setTextFormat(Qt::PlainText);

@@ -131,4 +131,10 @@ FormWindow* Session::WindowOf(const Form& form) const {
   return found == windows_.end() ? nullptr : found->second.get();
 }
 
+FormWindow* Session::ActiveWindow() const {
+  const auto isActive = [](const auto& entry) { return entry.second->isActiveWindow(); };
+  const auto found = std::find_if(windows_.begin(), windows_.end(), isActive);
+  return found == windows_.end() ? nullptr : found->second.get();
+}
+
 }  // namespace quintara::desktop

@@ -58,6 +58,9 @@ class Session {
 
   // Null where the form has no window.
   FormWindow* WindowOf(const Form& form) const;
+  // The window that the user works in; null where it is none of a form's. Qt may name one that was closed a
+  // moment ago and is about to go.
+  FormWindow* ActiveWindow() const;
   Scene& scene() const { return scene_; }
   Pictures& pictures() { return pictures_; }
 
