@@ -1,5 +1,6 @@
 #include "desktop/application.h"
 
+#include <QtCore/QTimer>
 #include <QtGui/QFontDatabase>
 #include <QtGui/QIcon>
 #include <QtWidgets/QMessageBox>
@@ -20,6 +21,12 @@ QIcon ProgramIcon() {
   return icon;
 }
 
+// A message box could not say it.
+void TellIfThereIsNoFont() {
+  if (QFontDatabase::families().isEmpty())
+    qWarning("Quintara: no font was found, so texts can't be read. Install one, such as Liberation Sans.");
+}
+
 }  // namespace
 
 Application::Application(int& argumentCount, char** arguments) : QApplication(argumentCount, arguments) {
@@ -28,9 +35,8 @@ Application::Application(int& argumentCount, char** arguments) : QApplication(ar
   setQuitOnLastWindowClosed(false);
   SetUpAppearance();
   setWindowIcon(ProgramIcon());
-  // A message box could not say it.
-  if (QFontDatabase::families().isEmpty())
-    qWarning("Quintara: no font was found, so texts can't be read. Install one, such as Liberation Sans.");
+  // Finding all fonts takes a while. It can wait until there is a window.
+  QTimer::singleShot(0, this, &TellIfThereIsNoFont);
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {
