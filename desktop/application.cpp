@@ -1,7 +1,7 @@
 #include "desktop/application.h"
 
 #include <QtCore/QTimer>
-#include <QtGui/QFontDatabase>
+#include <QtGui/QFontMetrics>
 #include <QtGui/QIcon>
 #include <QtWidgets/QMessageBox>
 
@@ -23,7 +23,8 @@ QIcon ProgramIcon() {
 
 // A message box could not say it.
 void TellIfThereIsNoFont() {
-  if (QFontDatabase::families().isEmpty())
+  // Not by a list of the fonts: it names kinds of fonts where there is none.
+  if (!QFontMetrics(QApplication::font()).inFont('A'))
     qWarning("Quintara: no font was found, so texts can't be read. Install one, such as Liberation Sans.");
 }
 
@@ -35,7 +36,7 @@ Application::Application(int& argumentCount, char** arguments) : QApplication(ar
   setQuitOnLastWindowClosed(false);
   SetUpAppearance();
   setWindowIcon(ProgramIcon());
-  // Finding all fonts takes a while. It can wait until there is a window.
+  // To find a font takes a while, which can wait until there is a window.
   QTimer::singleShot(0, this, &TellIfThereIsNoFont);
 }
 

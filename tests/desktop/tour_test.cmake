@@ -40,3 +40,10 @@ file(WRITE ${FOLDER}/file "")
 tour(1 "could not be made" ${FOLDER}/file/below)
 file(MAKE_DIRECTORY ${FOLDER}/taken/01-start.png)
 tour(1 "01-start.png could not be written: " ${FOLDER}/taken)
+
+# A machine without a single font.
+if(CMAKE_HOST_UNIX AND NOT CMAKE_HOST_APPLE)
+  file(WRITE ${FOLDER}/fonts.conf "<fontconfig><cachedir>${FOLDER}</cachedir></fontconfig>")
+  set(ENV{FONTCONFIG_FILE} ${FOLDER}/fonts.conf)
+  tour(0 "no font was found.*All went well" ${FOLDER}/without-fonts)
+endif()
