@@ -2,6 +2,7 @@
 
 #include <QtCore/QDir>
 
+#include <cstdio>
 #include <cstdlib>
 
 #include "desktop/application.h"
@@ -12,6 +13,19 @@
 
 namespace quintara::desktop {
 namespace {
+
+QtMessageHandler messagesOfQt = nullptr;
+
+// Qt would advise to install the program anew, and abort.
+void EndWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+  if (type != QtFatalMsg) return messagesOfQt(type, context, text);
+  constexpr int noDisplay = 1;
+  std::fputs(
+      "quintara: there is no display on which windows could be opened. Without one, quintara --tour FOLDER\n"
+      "plays by itself and leaves pictures, and quintara-host plays by commands.\n",
+      stderr);
+  std::_Exit(noDisplay);
+}
 
 void TellIfMissing(const QString& folder, Platform& platform) {
   if (QDir(folder).exists()) return;
@@ -26,7 +40,9 @@ void TellIfMissing(const QString& folder, Platform& platform) {
 }  // namespace
 
 int RunGame(int argumentCount, char** arguments) {
+  messagesOfQt = qInstallMessageHandler(&EndWithoutDisplay);
   Application application(argumentCount, arguments);
+  qInstallMessageHandler(messagesOfQt);
   const ProgramFolders folders = FindFolders();
   DesktopPlatform platform(folders);
   TellIfMissing(folders.data, platform);
