@@ -23,6 +23,7 @@ class RadarTest : public ::testing::Test, protected RunningGame {
     chance.Queue((altitude - 0.5) / 6000);
     Click(form.cmdSearch);
     ASSERT_EQ(form.cmdSearch.Enabled, false);
+    ASSERT_EQ(form.Shape2.Visible, true);
   }
   std::size_t Beeps() const {
     return static_cast<std::size_t>(std::count(platform.log.begin(), platform.log.end(), "beep"));
@@ -60,6 +61,23 @@ TEST_F(RadarTest, TheScopeShowsTheSliceBelowTheTarget) {
     Advance(50 * ticks);
     EXPECT_EQ(form.Picture4.Picture.Get(), (Picture{"Graphics\\Profile" + std::string(shown) + ".bmp", true}))
         << why;
+  }
+}
+
+TEST_F(RadarTest, NoSliceBeginsOrEndsOnItsEdge) {
+  Search(6000);
+  form.gDt = 0;  // the target stands where it is put
+  const auto shownAt = [this](double place) {
+    form.gPosX = place;
+    Advance(50);
+    return form.Picture4.Picture.Get().name;
+  };
+  const double edges[] = {2500, 3250, 4750, 6250, 7750, 9250, 10750, 12250, 13750};
+  for (std::size_t i = 0; i < std::size(edges); ++i) {
+    const std::string left = "Graphics\\Profile" + std::to_string(i + 1) + ".bmp";
+    EXPECT_EQ(shownAt(edges[i] - 0.25), left);
+    EXPECT_EQ(shownAt(edges[i]), left) << "the picture stays";
+    EXPECT_NE(shownAt(edges[i] + 0.25), left);
   }
 }
 

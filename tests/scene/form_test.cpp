@@ -113,6 +113,7 @@ TEST_F(FormTest, LoadedElementsAreHiddenCopiesInFrontOfTheirKind) {
 
 TEST_F(FormTest, AChangeOfScaleMovesNothing) {
   form.ScaleMode = 3;
+  EXPECT_EQ(form.ScaleMode, 3);
   EXPECT_EQ(form.Open.Left, 400);
   EXPECT_EQ(form.ScaleWidth, 600);
   EXPECT_EQ(form.Button.Left, 1500) << "only direct children are counted anew";
