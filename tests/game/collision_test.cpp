@@ -106,5 +106,16 @@ TEST_F(CollisionTest, AHitBurnsFor400Milliseconds) {
   EXPECT_FALSE(form.Image8.Visible);
 }
 
+TEST_F(CollisionTest, AHitWithTheFifthShellArmsTheBonusShotAndEndsItsDrag) {
+  for (int shell = 1; shell <= 4; ++shell) FireTo(12000, -1);
+  Click(form.cmdAdvanced);
+  FireTo(22052, -1);
+  EXPECT_EQ(form.Label17.Caption, "10");
+  EXPECT_EQ(form.Label24.Caption, "Bonus Shot using Advanced Trajectory Simulator");
+  EXPECT_EQ(form.Label15.Caption, "0");
+  EXPECT_EQ(form.cmdAdvanced.Caption, "OFF");
+  EXPECT_EQ(form.cmdAdvanced.Enabled, false);
+}
+
 }  // namespace
 }  // namespace quintara

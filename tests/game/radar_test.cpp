@@ -23,7 +23,8 @@ class RadarTest : public ::testing::Test, protected RunningGame {
     chance.Queue((altitude - 0.5) / 6000);
     Click(form.cmdSearch);
     ASSERT_EQ(form.cmdSearch.Enabled, false);
-    ASSERT_EQ(form.Shape2.Visible, true);
+    ASSERT_TRUE(form.Shape2.Visible && form.Line2.Visible);
+    ASSERT_TRUE(form.Line2.X1 == 1800 && form.Line2.Y1 == 2040);
   }
   std::size_t Beeps() const {
     return static_cast<std::size_t>(std::count(platform.log.begin(), platform.log.end(), "beep"));

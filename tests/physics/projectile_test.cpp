@@ -124,6 +124,8 @@ TEST_F(ProjectileTest, BallThreeTakesXFromOneAndYFromTwoAndLeavesATrail) {
     Ticks(1);
     ASSERT_EQ(form.Shape3.Left, form.Shape1.Left);
     ASSERT_EQ(form.Shape3.Top, form.Shape2.Top);
+    ASSERT_TRUE(form.Line1.X1 == form.Shape3.Left + 255 && form.Line1.X2 == 255)
+        << "the sight line joins them";
     ASSERT_EQ(form.dots().size(), tick) << "the last tick leaves one too";
     const Dot& dot = form.dots().back();
     ASSERT_TRUE(dot.x == Single(form.Shape3.Left - 20) && dot.y == Single(form.Shape3.Top + 60));
