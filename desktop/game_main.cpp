@@ -21,8 +21,8 @@ void EndWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const 
   if (type != QtFatalMsg) return messagesOfQt(type, context, text);
   constexpr int noDisplay = 1;
   std::fputs(
-      "quintara: there is no display on which windows could be opened. Without one, quintara --tour FOLDER\n"
-      "plays by itself and leaves pictures, and quintara-host plays by commands.\n",
+      "quintara: no window can be opened here: there is no display, or none that Qt can use. Without one,\n"
+      "quintara --tour FOLDER plays by itself and leaves pictures, and quintara-host plays by commands.\n",
       stderr);
   std::_Exit(noDisplay);
 }

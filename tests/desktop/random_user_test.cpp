@@ -7,6 +7,7 @@
 #include <QtWidgets/QPushButton>
 
 #include <random>
+#include <set>
 
 #include "scene/input.h"
 #include "tests/desktop/game_windows.h"
@@ -20,8 +21,8 @@ constexpr Qt::Key keys[] = {Qt::Key_S,      Qt::Key_M,         Qt::Key_F,      Q
                             Qt::Key_Up,     Qt::Key_Down,      Qt::Key_PageUp, Qt::Key_Home, Qt::Key_End,
                             Qt::Key_Plus,   Qt::Key_Minus,     Qt::Key_0,      Qt::Key_F1};
 
-// Presses whatever there is, as fast as the event loop turns, also while a menu or a box is open. Only what
-// ends the game is left alone.
+// Presses whatever there is and closes windows, as fast as the event loop turns, also behind a menu or a box
+// that is open. Only what ends the game is left alone.
 class RandomUserTest : public GameWindows {
  protected:
   void PlayFor(int howManyTurns) {
@@ -30,7 +31,8 @@ class RandomUserTest : public GameWindows {
     QApplication::exec();
   }
 
-  int boxesAnswered = 0, menusAnswered = 0;
+  int boxesAnswered = 0, menusAnswered = 0, closedBehind = 0;
+  std::set<const Form*> shown;
 
  private:
   int Any(int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); }
@@ -78,14 +80,27 @@ class RandomUserTest : public GameWindows {
       UserClicks(main.Image7);
     });
   }
-  void OfferTheList() {
-    Do([this] { program.masters().Show(); });
-    TypeAName();
+  void OpenAWindow() {
+    Form& form = *program.scene().forms()[static_cast<std::size_t>(Any(6))];
+    Do([&form] { form.Show(); });
+    if (&form == &program.masters()) TypeAName();
+  }
+  void CloseByTheFrame(QWidget& window) {
+    if (&window != &WindowOf(main)) window.close();
+  }
+  // A window manager lets the user do so.
+  void CloseAWindowBehind() {
+    ++closedBehind;
+    FormWindow* window = session.WindowOf(*program.scene().forms()[static_cast<std::size_t>(Any(6))]);
+    if (window != nullptr) CloseByTheFrame(*window);
   }
 
   void Act() {
-    if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) return Answer(*menu);
-    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) return Answer(*box);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if ((menu != nullptr || box != nullptr) && Any(3) == 0) return CloseAWindowBehind();
+    if (menu != nullptr) return Answer(*menu);
+    if (box != nullptr) return Answer(*box);
     QWidgetList windows = QApplication::topLevelWidgets();
     windows.removeIf([](const QWidget* window) { return !window->isVisible(); });
     QWidget& window = AnyOf(windows);
@@ -93,8 +108,8 @@ class RandomUserTest : public GameWindows {
     if (what < 50) return ClickSomewhereIn(window);
     if (what < 76) return PressAKeyIn(window);
     if (what < 86) return PlayOn();
-    if (what < 92) return OfferTheList();
-    if (&window != &WindowOf(main)) window.close();
+    if (what < 93) return OpenAWindow();
+    CloseByTheFrame(window);
   }
   // The next turn comes even where this one waits for a menu or a box.
   void Turn() {
@@ -107,6 +122,7 @@ class RandomUserTest : public GameWindows {
   }
   void WindowsAreThoseOfTheForms() {
     for (Form* form : program.scene().forms()) {
+      if (form->IsVisible()) shown.insert(form);
       const FormWindow* window = session.WindowOf(*form);
       EXPECT_EQ(window != nullptr && window->isVisible(), form->IsVisible()) << form->name();
     }
@@ -120,8 +136,10 @@ class RandomUserTest : public GameWindows {
 TEST_F(RandomUserTest, NothingThatIsPressedEndsTheGame) {
   PlayFor(4000);
   EXPECT_FALSE(program.scene().ended());
-  EXPECT_GT(boxesAnswered, 10);
-  EXPECT_GT(menusAnswered, 100);
+  EXPECT_GT(boxesAnswered, 5);
+  EXPECT_GT(menusAnswered, 50);
+  EXPECT_GT(closedBehind, 25);
+  EXPECT_EQ(shown.size(), 6u);
 }
 
 }  // namespace
