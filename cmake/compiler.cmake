@@ -31,10 +31,21 @@ endif()
 set(CMAKE_UNITY_BUILD ON CACHE BOOL "Compile the files of a target at once instead of one by one")
 set(CMAKE_UNITY_BUILD_BATCH_SIZE 0)
 
-# quintara_library(NAME SOURCE...): the library of one folder; its headers are included as "FOLDER/header.h".
+# quintara_library(NAME LIBRARY...): the library of one folder, which stands on those named; its headers are included as
+# "FOLDER/header.h". A file main.cpp in the folder is a program's and no part of it. A folder that has only headers
+# makes a library without code.
 function(quintara_library name)
-  add_library(${name} STATIC ${ARGN})
-  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR})
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp)
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
+  if(sources)
+    add_library(${name} STATIC ${sources})
+    set(scope PUBLIC)
+  else()
+    add_library(${name} INTERFACE)
+    set(scope INTERFACE)
+  endif()
+  target_include_directories(${name} ${scope} ${PROJECT_SOURCE_DIR})
+  target_link_libraries(${name} ${scope} ${ARGN})
 endfunction()
 
 # quintara_test_program(NAME LIBRARY SOURCE...): a GoogleTest program whose cases ctest runs one by one. What it tests
@@ -48,8 +59,13 @@ function(quintara_test_program name library)
   gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST)
 endfunction()
 
-# quintara_test(NAME LIBRARY SOURCE...): one that needs no main function of its own.
+# quintara_test(NAME LIBRARY [SOURCE...]): one that needs no main function of its own. Without a SOURCE it is made of all
+# those of its folder.
 function(quintara_test name library)
-  quintara_test_program(${name} ${library} ${ARGN})
+  set(sources ${ARGN})
+  if(NOT sources)
+    file(GLOB sources CONFIGURE_DEPENDS *.cpp)
+  endif()
+  quintara_test_program(${name} ${library} ${sources})
   target_link_libraries(${name} PRIVATE GTest::gtest_main)
 endfunction()

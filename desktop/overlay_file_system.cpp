@@ -2,7 +2,7 @@
 
 #include <system_error>
 
-#include "scene/files.h"
+#include "files/files.h"
 
 namespace quintara::desktop {
 

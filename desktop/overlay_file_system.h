@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "scene/file_system.h"
+#include "files/file_system.h"
 
 namespace quintara::desktop {
 

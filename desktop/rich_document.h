@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desktop/zoom.h"
-#include "scene/rich_text.h"
+#include "text/rich_text.h"
 
 class QTextDocument;
 

@@ -6,7 +6,7 @@
 #include <map>
 #include <string>
 
-#include "scene/file_system.h"
+#include "files/file_system.h"
 #include "scene/quiet_platform.h"
 
 namespace quintara::desktop {

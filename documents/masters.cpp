@@ -1,6 +1,6 @@
 #include "documents/masters.h"
 
-#include "scene/numbers.h"
+#include "numbers/numbers.h"
 #include "scene/scene.h"
 
 namespace quintara {

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "fuzz/require.h"
-#include "scene/numbers.h"
+#include "numbers/numbers.h"
 
 namespace quintara::fuzz {
 namespace {

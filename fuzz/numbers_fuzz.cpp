@@ -1,6 +1,6 @@
 // Numbers and their texts: what is shown reads back to what it was, and every text reads as a number.
 
-#include "scene/numbers.h"
+#include "numbers/numbers.h"
 
 #include <bit>
 #include <cmath>

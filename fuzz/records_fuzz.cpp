@@ -4,9 +4,9 @@
 #include "fuzz/answering_platform.h"
 #include "fuzz/bytes.h"
 #include "fuzz/require.h"
+#include "numbers/numbers.h"
 #include "program/program.h"
 #include "scene/input.h"
-#include "scene/numbers.h"
 
 namespace quintara::fuzz {
 namespace {

@@ -2,8 +2,8 @@
 
 #include "fuzz/bytes.h"
 #include "fuzz/require.h"
-#include "scene/rich_text_characters.h"
 #include "tests/support/rich_text_faults.h"
+#include "text/rich_text_characters.h"
 
 namespace quintara::fuzz {
 namespace {

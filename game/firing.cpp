@@ -1,6 +1,6 @@
 #include "game/quintara.h"
+#include "numbers/trigonometry.h"
 #include "scene/scene.h"
-#include "scene/trigonometry.h"
 
 namespace quintara {
 namespace {

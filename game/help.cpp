@@ -1,5 +1,5 @@
 #include "game/quintara.h"
-#include "scene/numbers.h"
+#include "numbers/numbers.h"
 #include "scene/scene.h"
 
 namespace quintara {

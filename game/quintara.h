@@ -3,11 +3,11 @@
 #include <array>
 #include <string_view>
 
+#include "ballistics/ballistic_step.h"
 #include "documents/about.h"
 #include "documents/analysis.h"
 #include "documents/masters.h"
 #include "game/quintara_controls.h"
-#include "physics/ballistic_step.h"
 #include "scene/form_handle.h"
 
 namespace quintara {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "scene/controls.h"
-#include "scene/module1.h"
+#include "documents/module1.h"
 
 namespace quintara {
 

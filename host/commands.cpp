@@ -5,7 +5,7 @@
 
 #include "host/names.h"
 #include "host/properties.h"
-#include "scene/rich_text_characters.h"
+#include "text/rich_text_characters.h"
 
 namespace quintara::host {
 namespace {

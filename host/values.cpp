@@ -4,7 +4,7 @@
 #include <charconv>
 #include <cmath>
 
-#include "scene/numbers.h"
+#include "numbers/numbers.h"
 
 namespace quintara::host {
 namespace {

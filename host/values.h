@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "numbers/single.h"
 #include "scene/colour.h"
-#include "scene/single.h"
 
 // How commands and values are written on a line.
 

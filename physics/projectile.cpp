@@ -1,7 +1,7 @@
 #include "physics/projectile.h"
 
-#include "scene/numbers.h"
-#include "scene/trigonometry.h"
+#include "numbers/numbers.h"
+#include "numbers/trigonometry.h"
 
 namespace quintara {
 

@@ -1,10 +1,10 @@
 #include <string>
 #include <string_view>
 
+#include "numbers/numbers.h"
+#include "numbers/trigonometry.h"
 #include "physics/projectile.h"
-#include "scene/numbers.h"
 #include "scene/scene.h"
-#include "scene/trigonometry.h"
 
 namespace quintara {
 namespace {

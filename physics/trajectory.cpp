@@ -1,6 +1,6 @@
 #include "physics/trajectory.h"
 
-#include "scene/numbers.h"
+#include "numbers/numbers.h"
 
 namespace quintara {
 

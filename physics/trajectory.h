@@ -1,6 +1,6 @@
 #pragma once
 
-#include "physics/ballistic_step.h"
+#include "ballistics/ballistic_step.h"
 #include "physics/trajectory_controls.h"
 
 namespace quintara {

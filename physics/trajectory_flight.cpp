@@ -1,9 +1,9 @@
 #include <optional>
 
+#include "numbers/numbers.h"
+#include "numbers/trigonometry.h"
 #include "physics/trajectory.h"
-#include "scene/numbers.h"
 #include "scene/scene.h"
-#include "scene/trigonometry.h"
 
 namespace quintara {
 namespace {

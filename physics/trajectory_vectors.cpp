@@ -1,6 +1,6 @@
+#include "numbers/numbers.h"
+#include "numbers/trigonometry.h"
 #include "physics/trajectory.h"
-#include "scene/numbers.h"
-#include "scene/trigonometry.h"
 
 // The panel of velocity vectors, in its own units: two to each m/s. The projectile is where Line5 (along the
 // ground) and Line6 (upwards) begin; Line7 is their resultant, and its X1, Y1 is the tip.

@@ -3,11 +3,11 @@
 #include <cstdint>
 #include <vector>
 
+#include "numbers/single.h"
 #include "scene/colour.h"
 #include "scene/object.h"
 #include "scene/property.h"
 #include "scene/scale.h"
-#include "scene/single.h"
 
 namespace quintara {
 

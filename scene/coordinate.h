@@ -1,8 +1,8 @@
 #pragma once
 
+#include "numbers/single.h"
 #include "scene/property.h"
 #include "scene/scale.h"
-#include "scene/single.h"
 
 namespace quintara {
 

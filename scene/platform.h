@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <string>
 
-#include "scene/file_system.h"
-#include "scene/files.h"
+#include "files/file_system.h"
+#include "files/files.h"
 
 namespace quintara {
 

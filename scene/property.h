@@ -6,7 +6,7 @@
 #include <string_view>
 #include <utility>
 
-#include "scene/single.h"
+#include "numbers/single.h"
 
 namespace quintara {
 

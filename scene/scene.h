@@ -5,9 +5,9 @@
 #include <string_view>
 #include <vector>
 
-#include "scene/chance.h"
+#include "files/files.h"
+#include "numbers/chance.h"
 #include "scene/dispatcher.h"
-#include "scene/files.h"
 #include "scene/picture_box.h"
 #include "scene/platform.h"
 

@@ -8,7 +8,7 @@
 
 #include "scene/box.h"
 #include "scene/event.h"
-#include "scene/rich_text.h"
+#include "text/rich_text.h"
 
 namespace quintara {
 

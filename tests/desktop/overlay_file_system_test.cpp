@@ -5,7 +5,7 @@
 #include <map>
 
 #include "desktop/program_folders.h"
-#include "scene/files.h"
+#include "files/files.h"
 #include "tests/support/recording_platform.h"
 
 namespace quintara::desktop {

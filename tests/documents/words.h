@@ -10,9 +10,9 @@
 #include <string>
 #include <vector>
 
-#include "scene/numbers.h"
-#include "scene/rich_text_tokens.h"
+#include "numbers/numbers.h"
 #include "tests/support/game.h"
+#include "text/rich_text_tokens.h"
 
 // What the documents say is held against the running game: these find what they say.
 

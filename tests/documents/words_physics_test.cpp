@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "scene/trigonometry.h"
+#include "numbers/trigonometry.h"
 #include "tests/documents/words.h"
 
 namespace quintara::words {

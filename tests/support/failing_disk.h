@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "scene/file_system.h"
+#include "files/file_system.h"
 
 namespace quintara {
 

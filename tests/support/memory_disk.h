@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "scene/file_system.h"
+#include "files/file_system.h"
 
 namespace quintara {
 

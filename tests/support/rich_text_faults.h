@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "scene/rich_text.h"
+#include "text/rich_text.h"
 
 namespace quintara {
 

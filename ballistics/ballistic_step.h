@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <limits>
 
-#include "scene/numbers.h"
-#include "scene/single.h"
+#include "numbers/numbers.h"
+#include "numbers/single.h"
 
 namespace quintara {
 

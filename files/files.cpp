@@ -1,4 +1,4 @@
-#include "scene/files.h"
+#include "files/files.h"
 
 #include <algorithm>
 #include <chrono>

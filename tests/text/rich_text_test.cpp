@@ -1,4 +1,4 @@
-#include "scene/rich_text.h"
+#include "text/rich_text.h"
 
 #include <gtest/gtest.h>
 

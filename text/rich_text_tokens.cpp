@@ -1,8 +1,8 @@
-#include "scene/rich_text_tokens.h"
+#include "text/rich_text_tokens.h"
 
 #include <algorithm>
 
-#include "scene/numbers.h"
+#include "numbers/numbers.h"
 
 namespace quintara {
 

@@ -1,8 +1,8 @@
-#include "scene/rich_text_builder.h"
+#include "text/rich_text_builder.h"
 
 #include <utility>
 
-#include "scene/rich_text_characters.h"
+#include "text/rich_text_characters.h"
 
 namespace quintara {
 

@@ -1,4 +1,4 @@
-#include "scene/trigonometry.h"
+#include "numbers/trigonometry.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include <numbers>
 #include <random>
 
-#include "scene/single.h"
+#include "numbers/single.h"
 
 namespace quintara {
 namespace {

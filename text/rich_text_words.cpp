@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "scene/rich_text_reader.h"
+#include "text/rich_text_reader.h"
 
 namespace quintara {
 

@@ -1,9 +1,9 @@
-#include "scene/rich_text_reader.h"
+#include "text/rich_text_reader.h"
 
 #include <algorithm>
 #include <utility>
 
-#include "scene/rich_text_characters.h"
+#include "text/rich_text_characters.h"
 
 namespace quintara {
 

@@ -1,11 +1,11 @@
-#include "scene/trigonometry.h"
+#include "numbers/trigonometry.h"
 
 #include <array>
 #include <cmath>
 #include <cstdint>
 #include <limits>
 
-#include "scene/double_double.h"
+#include "numbers/double_double.h"
 
 namespace quintara {
 namespace {

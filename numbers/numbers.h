@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "scene/single.h"
+#include "numbers/single.h"
 
 // The program keeps much of its state as text in captions. These are the rules by which such text becomes a
 // number and a number becomes text; they decide what the player reads and what the next step of the game

@@ -10,9 +10,9 @@
 #include <variant>
 #include <vector>
 
-#include "scene/rich_text.h"
-#include "scene/rich_text_builder.h"
-#include "scene/rich_text_tokens.h"
+#include "text/rich_text.h"
+#include "text/rich_text_builder.h"
+#include "text/rich_text_tokens.h"
 
 namespace quintara {
 

@@ -1,4 +1,4 @@
-#include "scene/chance.h"
+#include "numbers/chance.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "scene/numbers.h"
+#include "numbers/numbers.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,11 +1,11 @@
-#include "scene/numbers.h"
+#include "numbers/numbers.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
 
-#include "scene/chance.h"
+#include "numbers/chance.h"
 #include "scene/property.h"
 
 namespace quintara {

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "scene/single.h"
+#include "numbers/single.h"
 
 namespace quintara {
 

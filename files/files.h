@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "scene/file_system.h"
+#include "files/file_system.h"
 
 namespace quintara {
 

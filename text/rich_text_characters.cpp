@@ -1,8 +1,8 @@
-#include "scene/rich_text_characters.h"
+#include "text/rich_text_characters.h"
 
 #include <array>
 
-#include "scene/rich_text.h"
+#include "text/rich_text.h"
 
 namespace quintara {
 

@@ -1,8 +1,8 @@
-#include "scene/rich_text.h"
+#include "text/rich_text.h"
 
-#include "scene/rich_text_builder.h"
-#include "scene/rich_text_characters.h"
-#include "scene/rich_text_reader.h"
+#include "text/rich_text_builder.h"
+#include "text/rich_text_characters.h"
+#include "text/rich_text_reader.h"
 
 namespace quintara {
 

@@ -1,4 +1,4 @@
-#include "physics/ballistic_step.h"
+#include "ballistics/ballistic_step.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "scene/module1.h"
+#include "documents/module1.h"
 
 #include "scene/scene.h"
 

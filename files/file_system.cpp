@@ -1,4 +1,4 @@
-#include "scene/file_system.h"
+#include "files/file_system.h"
 
 #include <algorithm>
 #include <cstdio>
