@@ -7,82 +7,55 @@
 
 #include "numbers/numbers.h"
 #include "numbers/single.h"
+#include "numbers/trigonometry.h"
 
 namespace quintara {
 
-// The variables that a ballistic step works on, under whatever names their owner gives them. Metres, seconds,
-// m/s and m/s²; x along the ground away from the gun, y upwards.
-struct FlightVariables {
-  Single& dragTerm;
-  Single& ax;
-  Single& ay;
-  Single& vx;
-  Single& vy;
-  Single& speed;
-  Single& x;
-  Single& y;
-  Single& time;
-  const Single& dt;  // length of the step
+// A shell in flight: metres, seconds, m/s and m/s²; x along the ground away from the gun, y upwards. Who
+// works a flight out at once does so on a copy, which a processor keeps at hand: what a form holds has to be
+// stored after every line.
+struct Flight {
+  Single dragTerm, ax, ay;  // drag term and accelerations of the last step
+  Single vx, vy, speed;     // velocity and, from the first step on, its length
+  Single x, y;              // place
+  Single time;              // since the launch
+  Single dt;                // length of the step
 };
 
-// The same variables held apart, for a flight that is worked out at once: what a form holds has to be stored
-// after every line, these a processor keeps at hand.
-struct FlightValues {
-  Single dragTerm, ax, ay, vx, vy, speed, x, y, time, dt;
-
-  explicit FlightValues(const FlightVariables& v)
-      : dragTerm(v.dragTerm),
-        ax(v.ax),
-        ay(v.ay),
-        vx(v.vx),
-        vy(v.vy),
-        speed(v.speed),
-        x(v.x),
-        y(v.y),
-        time(v.time),
-        dt(v.dt) {}
-
-  // What the flight has come to; the length of its step stays.
-  void StoreIn(const FlightVariables& v) const {
-    v.dragTerm = dragTerm;
-    v.ax = ax;
-    v.ay = ay;
-    v.vx = vx;
-    v.vy = vy;
-    v.speed = speed;
-    v.x = x;
-    v.y = y;
-    v.time = time;
-  }
-};
+// Puts a shell into the gun's mouth, with a velocity in m/s and an elevation in radians. The step, and what
+// only a step works out, stay as they are.
+inline void Launch(Flight& flight, Single velocity, Single elevation) {
+  flight.vx = velocity * Cos(elevation);
+  flight.vy = velocity * Sin(elevation);
+  flight.x = 0;
+  flight.y = 0;
+  flight.time = 0;
+}
 
 // The first half of a step: drag, acceleration, velocity, and the way along the ground. `k` is the drag
 // constant.
 //
 // The order of the lines is part of the result, and so is the rounding at each store. The drag term is built
 // on vx alone and taken off both axes: this is the game's model of drag, not a slip.
-template <typename Variables>
-void StepAlongGround(Variables&& v, double k) {
-  v.dragTerm = ((k * 0.001) * Sqr(v.vx * v.vx + v.vy * v.vy)) * v.vx;
-  v.ax = -v.dragTerm;
-  v.ay = -9.8 - v.dragTerm;
-  v.vx = v.ax * v.dt + v.vx;
-  v.vy = v.ay * v.dt + v.vy;
-  v.speed = Sqr(v.vx * v.vx + v.vy * v.vy);
-  v.x = (v.vx * v.dt + v.x) + v.dt * v.dt * (0.5 * v.ax);
+inline void StepAlongGround(Flight& flight, double k) {
+  flight.dragTerm = ((k * 0.001) * Sqr(flight.vx * flight.vx + flight.vy * flight.vy)) * flight.vx;
+  flight.ax = -flight.dragTerm;
+  flight.ay = -9.8 - flight.dragTerm;
+  flight.vx = flight.ax * flight.dt + flight.vx;
+  flight.vy = flight.ay * flight.dt + flight.vy;
+  flight.speed = Sqr(flight.vx * flight.vx + flight.vy * flight.vy);
+  flight.x = (flight.vx * flight.dt + flight.x) + flight.dt * flight.dt * (0.5 * flight.ax);
 }
 
 // The second half: height and time.
-template <typename Variables>
-void StepUpwards(Variables&& v) {
-  v.y = (v.vy * v.dt + v.y) + v.dt * v.dt * (0.5 * v.ay);
-  v.time = v.time + v.dt;
+inline void StepUpwards(Flight& flight) {
+  flight.y = (flight.vy * flight.dt + flight.y) + flight.dt * flight.dt * (0.5 * flight.ay);
+  flight.time = flight.time + flight.dt;
 }
 
-template <typename Variables>
-void BallisticStep(Variables&& v, double k) {
-  StepAlongGround(v, k);
-  StepUpwards(v);
+inline void BallisticStep(Flight& flight, double k) {
+  StepAlongGround(flight, k);
+  StepUpwards(flight);
 }
 
 // Where the counter of a flight that is worked out at once ends, which begins at 1: a flight has five steps

@@ -169,7 +169,7 @@ void TickOfTheShell(benchmark::State& state) {
   UserDragsTo(game.form.HScroll1, 1);
   UserClicks(game.form.Image7);
   for (auto _ : state) {
-    if (!(game.form.gPosY > 5000 || game.form.gVy > 0)) {
+    if (!(game.form.flight.y > 5000 || game.form.flight.vy > 0)) {
       state.PauseTiming();
       game.form.Label21.Caption = "1";
       UserClicks(game.form.Image7);

@@ -3,23 +3,20 @@
 #include <cstdint>
 #include <string>
 
+#include "ballistics/ballistic_step.h"
 #include "numbers/single.h"
 
 namespace quintara {
 
 class Scene;
 
-// The public variables of the program, which all its forms share. The radar, the preview and the flight use
-// the same gDt, gPosX and gPosY: each of them sets them afresh when it starts.
+// The public variables of the program, which all its forms share. The radar, the preview and the shell use
+// the same flight: each of them sets what it needs of it afresh when it starts.
 struct Module1 {
   std::string gAppPath;         // the program's folder with a trailing backslash
   std::int16_t gLoopIndex = 0;  // counter of the loops over scales and arrays
-  Single gDt;                   // seconds in one step
+  Flight flight;                // the shell's, the preview's and, with its place in twips, the radar's target
   Single gMuzzleVelocity;       // m/s
-  Single gVx, gVy, gSpeed;      // velocity along the ground and upwards, and its length, m/s
-  Single gPosX, gPosY;          // the shell, metres from the gun; the radar's target, twips
-  Single gFlightTime;           // simulated seconds of the flight
-  Single gAx, gAy, gDragTerm;   // accelerations and drag term of the last step, m/s²
   Single gElevationRad;         // elevation of the shot
   Single gBarrelRad;            // elevation of the drawn barrel
   Single gElevationScroll;      // VScroll1.Value

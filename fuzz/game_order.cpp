@@ -37,8 +37,9 @@ void RequireRoom(const Container& surface) {
 }
 
 void RequireFlight(const Module1& shared) {
-  for (const double number : {shared.gVx, shared.gVy, shared.gSpeed, shared.gPosX, shared.gPosY,
-                              shared.gFlightTime, shared.gAx, shared.gAy, shared.gDragTerm}) {
+  for (const double number :
+       {shared.flight.vx, shared.flight.vy, shared.flight.speed, shared.flight.x, shared.flight.y,
+        shared.flight.time, shared.flight.ax, shared.flight.ay, shared.flight.dragTerm}) {
     Require(std::isfinite(number), "the flight is one of numbers");
   }
 }

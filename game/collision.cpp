@@ -34,7 +34,7 @@ void QuintaraForm::TestForImpact() {
     BurstOnProfile();
   } else if (StrikesTarget()) {
     HitTarget();
-  } else if (gPosY < 0 && gPosX > 10000) {
+  } else if (flight.y < 0 && flight.x > 10000) {
     BurstOnGround();
   }
 }
@@ -64,7 +64,8 @@ bool QuintaraForm::StrikesOutline() {
 }
 
 bool QuintaraForm::StrikesTarget() {
-  return gPosY < 0 && gPosX > Single(mTargetKm * 1000 - 400) && gPosX < Single(mTargetKm * 1000 + 200);
+  return flight.y < 0 && flight.x > Single(mTargetKm * 1000 - 400) &&
+         flight.x < Single(mTargetKm * 1000 + 200);
 }
 
 void QuintaraForm::HitTarget() {

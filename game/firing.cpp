@@ -1,5 +1,4 @@
 #include "game/quintara.h"
-#include "numbers/trigonometry.h"
 #include "scene/scene.h"
 
 namespace quintara {
@@ -17,8 +16,8 @@ void QuintaraForm::Image7_Click() {
   Line24.Visible = false;
   gElevationRad = (Val(Label1.Caption) * 3.1416) / 180;  // 3.1416 is the game's pi
   gMuzzleVelocity = Val(Label6.Caption);
-  StartShell();
-  gDt = HScroll1.Value * 0.059;
+  Launch(flight, gMuzzleVelocity, gElevationRad);
+  flight.dt = HScroll1.Value * 0.059;
   tmrShell.Interval = 17;
   tmrShell.Enabled = true;
 
@@ -29,15 +28,6 @@ void QuintaraForm::Image7_Click() {
 
   CountShell();
   if (Val(Label25.Caption) == 5) PrepareBonusShot();
-}
-
-// Puts a shell into the gun's mouth by the elevation and velocity in force.
-void QuintaraForm::StartShell() {
-  gVx = gMuzzleVelocity * Cos(gElevationRad);
-  gVy = gMuzzleVelocity * Sin(gElevationRad);
-  gPosX = 0;
-  gPosY = 0;
-  gFlightTime = 0;
 }
 
 void QuintaraForm::CountShell() {
@@ -70,14 +60,14 @@ void QuintaraForm::FireBonusShell() {
 
 void QuintaraForm::tmrShell_Timer() {
   if (mShellArmed != 1) return;
-  if (gPosY < 0) {
+  if (flight.y < 0) {
     // The shell is under ground and nothing was hit: the flight ends, but this tick still runs to its end and
     // may hit something after all.
     StopFlight();
     Shape1(0).Visible = false;
   }
-  gDt = HScroll1.Value * 0.059;
-  BallisticStep(Flight(), Val(Label15.Caption));
+  flight.dt = HScroll1.Value * 0.059;
+  BallisticStep(flight, Val(Label15.Caption));
   MoveShell();
   TestForImpact();
 }
@@ -85,17 +75,17 @@ void QuintaraForm::tmrShell_Timer() {
 // The shell has two markers, since a picture box hides what lies behind it: Shape1(0) in the open, and
 // Shape1(1) inside the mountain's box.
 void QuintaraForm::MoveShell() {
-  Shape1(0).Left = gPosX * 0.438;
-  Shape1(0).Top = 9250 - gPosY * 0.55;
+  Shape1(0).Left = flight.x * 0.438;
+  Shape1(0).Top = 9250 - flight.y * 0.55;
   Shape1(1).Visible = true;
-  Shape1(1).Left = gPosX * 0.438 - 790;
-  Shape1(1).Top = (mProfileHeight + 640) - gPosY * 0.55;
+  Shape1(1).Left = flight.x * 0.438 - 790;
+  Shape1(1).Top = (mProfileHeight + 640) - flight.y * 0.55;
 
   // The range bar grows to the end; the height bar stays where the shell was highest.
   Line8.X1 = Shape1(0).Left + 380;
   Line8.Visible = true;
   Line9.Visible = true;
-  if (gVy > 0) Line9.Y2 = Shape1(0).Top;
+  if (flight.vy > 0) Line9.Y2 = Shape1(0).Top;
   Shape1(0).Visible = true;
 }
 

@@ -97,19 +97,19 @@ void QuintaraForm::ClearProfileForPlot() {
 // there.
 void QuintaraForm::Preview(double dt, PreviewOf previewed) {
   const bool plots = previewed == PreviewOf::Laying && mBonusShot == 1;
-  StartShell();
-  gDt = dt;
+  Launch(flight, gMuzzleVelocity, gElevationRad);
+  flight.dt = dt;
   gStepCount = 1;
-  FlightValues flight(Flight());
+  Flight shell = flight;
   const double k = Val(Label15.Caption);
   Single lastAboveGround = -1;
   const std::int16_t end = EndOfSteps(gMuzzleVelocity);
   for (; gStepCount < end; ++gStepCount) {
-    BallisticStep(flight, k);
-    if (flight.y > 0) lastAboveGround = flight.time;
-    if (plots) PlotShell(flight.x, flight.y);
+    BallisticStep(shell, k);
+    if (shell.y > 0) lastAboveGround = shell.time;
+    if (plots) PlotShell(shell.x, shell.y);
   }
-  flight.StoreIn(Flight());
+  flight = shell;
   if (lastAboveGround >= 0) {
     if (previewed == PreviewOf::Laying) mImpactSeconds = Int(lastAboveGround);
     ShowTimeToImpact(lastAboveGround);
@@ -154,7 +154,7 @@ void QuintaraForm::TurnDragOn() {
 // Comes about only where a Reset has enabled the button of a drag that was turned on among the fragments of a
 // hit.
 void QuintaraForm::TurnDragOff() {
-  ShowTimeToImpact(gFlightTime);
+  ShowTimeToImpact(flight.time);
   cmdAdvanced.Caption = "OFF";
   mDragOn = 0;
   Label15.Caption = "0";

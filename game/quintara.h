@@ -98,11 +98,9 @@ class QuintaraForm : public QuintaraControls, public Module1 {
   // firing.cpp
   void Image7_Click();
   void tmrShell_Timer();
-  void StartShell();
   void CountShell();
   void FireBonusShell();
   void MoveShell();
-  FlightVariables Flight() { return {gDragTerm, gAx, gAy, gVx, gVy, gSpeed, gPosX, gPosY, gFlightTime, gDt}; }
   void Image7_MouseMove();
   void Picture8_MouseMove();
   void cmdReset_MouseMove();

@@ -23,7 +23,7 @@ constexpr ProfileBand profileBands[] = {
 }  // namespace
 
 void QuintaraForm::cmdSearch_Click() {
-  gDt = 0.05;
+  flight.dt = 0.05;
   Line2.X1 = 1800;
   Line2.Y1 = 2040;
   Shape2.Left = 1560;
@@ -33,8 +33,8 @@ void QuintaraForm::cmdSearch_Click() {
   scene().Randomize();
   mTargetAltitude = CInt(Int(scene().Rnd() * 6000 + 1));
   Label4.Caption = "  Target aquisition in progress";
-  gPosX = 0;
-  gPosY = 0;
+  flight.x = 0;
+  flight.y = 0;
   Line6.Visible = true;
   Line17.Visible = true;
   Image2.Visible = true;
@@ -54,10 +54,10 @@ void QuintaraForm::tmrBounce2_Timer() {
 // lock-on in that very tick stops only its own timer, so the other runs once more and locks on a second time.
 void QuintaraForm::DriftTarget(const Drift& drift) {
   SetTrackSpeed();
-  gPosX = gPosX + drift.direction * (gDt * mTrackSpeed);
-  gPosY = gPosY + gDt * 500;
-  Shape2.Left = gPosX;
-  Shape2.Top = gPosY + 2000;
+  flight.x = flight.x + drift.direction * (flight.dt * mTrackSpeed);
+  flight.y = flight.y + flight.dt * 500;
+  Shape2.Left = flight.x;
+  Shape2.Top = flight.y + 2000;
 
   const bool atEdge = drift.direction > 0 ? Shape2.Left > 14500 : Shape2.Left < 0;
   if (atEdge) {
@@ -69,9 +69,9 @@ void QuintaraForm::DriftTarget(const Drift& drift) {
   }
   ShowProfilePicture();
 
-  if (!(gPosY > mTargetAltitude)) {
+  if (!(flight.y > mTargetAltitude)) {
     GrowTarget();
-  } else if (gPosX > 200) {
+  } else if (flight.x > 200) {
     LockOn(drift.timer);
   }
 }
@@ -79,13 +79,13 @@ void QuintaraForm::DriftTarget(const Drift& drift) {
 // The two rules do not meet at 7360, and exactly there the speed stays: the target is fastest near the middle
 // and crawls at the right edge.
 void QuintaraForm::SetTrackSpeed() {
-  if (gPosX < 7360) mTrackSpeed = (gPosX * 4 + 3000) * 3;
-  if (gPosX > 7360) mTrackSpeed = (58880 - gPosX * 4) * 3;
+  if (flight.x < 7360) mTrackSpeed = (flight.x * 4 + 3000) * 3;
+  if (flight.x > 7360) mTrackSpeed = (58880 - flight.x * 4) * 3;
 }
 
 void QuintaraForm::ShowProfilePicture() {
   for (const ProfileBand& band : profileBands) {
-    if (gPosX > band.above && gPosX < band.below) {
+    if (flight.x > band.above && flight.x < band.below) {
       scene().LoadPictureInto(Picture4, gAppPath + band.file);
       return;
     }
@@ -95,7 +95,7 @@ void QuintaraForm::ShowProfilePicture() {
 // The target grows to the right and downwards, and the beam ends on its centre.
 void QuintaraForm::GrowTarget() {
   Shape2.Visible = true;
-  Shape2.Width = (500 - (12000 - gPosX) / 60) * (gPosY / 4800 + 5.0 / 8);
+  Shape2.Width = (500 - (12000 - flight.x) / 60) * (flight.y / 4800 + 5.0 / 8);
   Shape2.Height = Shape2.Width / 2;
   Line2.X1 = Shape2.Left + Shape2.Width / 2;
   Line2.Y1 = Shape2.Top + Shape2.Height / 2;
@@ -120,11 +120,11 @@ void QuintaraForm::LockOn(Timer& running) {
 // The sight lines meet at a point of the line from the mortar to the target, which the target's bearing
 // places.
 void QuintaraForm::DrawSightings() {
-  // The bearing takes gPosY as it is, without the 2000 that the target's place on the landscape adds.
-  mBearingDeg = (180 / 3.1416) * Atn((gPosX - Line6.X1) / (gPosY - Line6.Y1));
+  // The bearing takes flight.y as it is, without the 2000 that the target's place on the landscape adds.
+  mBearingDeg = (180 / 3.1416) * Atn((flight.x - Line6.X1) / (flight.y - Line6.Y1));
   mSightRatio = (mBearingDeg + 101.6) / 458.6;
-  Line2.X1 = gPosX;
-  Line2.Y1 = gPosY + 2000;
+  Line2.X1 = flight.x;
+  Line2.Y1 = flight.y + 2000;
   Line3.X1 = Line2.X1;
   Line3.Y1 = Line2.Y1;
   Line5.X1 = (Line2.X1 * mSightRatio + Line6.X2) / (mSightRatio + 1);

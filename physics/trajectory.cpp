@@ -64,8 +64,7 @@ void TrajectoryForm::TakeVelocity() {
 }
 
 void TrajectoryForm::TakeDrag() {
-  mTrajDrag = HScroll3.Value * 0.01;
-  Label11.Caption = ToText(mTrajDrag);
+  Label11.Caption = ToText(Single(HScroll3.Value * 0.01));
 }
 
 void TrajectoryForm::cmdCancel_Click() {

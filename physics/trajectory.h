@@ -40,9 +40,6 @@ class TrajectoryForm : public TrajectoryControls {
   void SetUpChart();
   void StartFlight(double dt);
   void StartEventTimer();
-  FlightVariables Flight() {
-    return {mTrajDrag, mTrajAx, mTrajAy, mTrajVx, mTrajVy, mTrajSpeed, mTrajX, mTrajY, mTrajTime, mTrajDt};
-  }
   static double ChartX(Single x) { return x * 7.54 + 12000; }
   static double ChartY(Single y) { return 45000 - y * 7.54; }
   void PlotPoint(Single x, Single y) { PSet(ChartX(x), ChartY(y)); }
@@ -62,19 +59,13 @@ class TrajectoryForm : public TrajectoryControls {
   void DrawComponents();
   void DrawArrowHeads(const ArrowRule& rule);
 
-  Single mTrajDt;                // time step in seconds
+  Flight flight;
   Single mTrajV0;                // initial velocity, m/s
-  Single mTrajVx, mTrajVy;       // velocity, m/s
-  Single mTrajSpeed;             // its length
-  Single mTrajX, mTrajY;         // metres along the ground and up
-  Single mTrajTime;              // seconds of flight
-  Single mTrajAx, mTrajAy;       // acceleration of the last step
-  Single mTrajDrag;              // the coefficient set; in a flight the drag term of the last step
   Single mTrajElevationRad;      // elevation in radians
   Single mTrajElevationScroll;   // where HScroll1 stands
   Single mResultantRad;          // angle of the resultant vector
   Single mResultantComplement;   // what it lacks of a right angle
-  Single mPaceRatio;             // mTrajVx / mTrajX, one second after Fire
+  Single mPaceRatio;             // of flight.vx to flight.x, one second after Fire
   std::int16_t mStepCount = 0;   // counts the steps of a replay
   std::int16_t mLoopIndex = 0;   // counts the marks of the axes
   std::int16_t mTrajPaused = 0;  // 1: cmdStop holds the flight

@@ -1,7 +1,6 @@
 #include <optional>
 
 #include "numbers/numbers.h"
-#include "numbers/trigonometry.h"
 #include "physics/trajectory.h"
 #include "scene/scene.h"
 
@@ -55,18 +54,18 @@ void TrajectoryForm::PlotFlight(double floor) {
   };
   std::optional<Point> lastAboveFloor;
   std::optional<Single> lastHeightRisen;
-  FlightValues flight(Flight());
+  Flight shell = flight;
   const double k = Val(Label11.Caption);
   const std::int16_t end = EndOfSteps(mTrajV0);
   for (; mStepCount < end; ++mStepCount) {
-    BallisticStep(flight, k);
-    if (flight.y > floor) {
-      PlotPoint(flight.x, flight.y);
-      lastAboveFloor = {flight.time, flight.x, flight.speed};
+    BallisticStep(shell, k);
+    if (shell.y > floor) {
+      PlotPoint(shell.x, shell.y);
+      lastAboveFloor = {shell.time, shell.x, shell.speed};
     }
-    if (flight.vy > Single(0.01)) lastHeightRisen = flight.y;
+    if (shell.vy > Single(0.01)) lastHeightRisen = shell.y;
   }
-  flight.StoreIn(Flight());
+  flight = shell;
   if (lastAboveFloor) {
     Label29.Caption = Format(lastAboveFloor->time, Pattern::Whole);
     Label20.Caption = Format(lastAboveFloor->x, Pattern::Whole);
@@ -114,25 +113,25 @@ void TrajectoryForm::FlyToSlider() {
   const std::int16_t end = EndOfSteps(mTrajV0);
   while (mStepCount < end) {
     ++mStepCount;
-    StepAlongGround(Flight(), Val(Label11.Caption));
-    if (mTrajX > Slider1.Value * metresPerSliderPosition) return;
-    StepUpwards(Flight());
-    if (mTrajY > 0) PlotPoint(mTrajX, mTrajY);
+    StepAlongGround(flight, Val(Label11.Caption));
+    if (flight.x > Slider1.Value * metresPerSliderPosition) return;
+    StepUpwards(flight);
+    if (flight.y > 0) PlotPoint(flight.x, flight.y);
   }
 }
 
 // At height 0, where the slider stands before the first step, everything stays as it is.
 void TrajectoryForm::ShowBallAtSlider() {
-  if (mTrajY < 0) {
+  if (flight.y < 0) {
     ShowBall(false);
     picVector.Visible = false;
-  } else if (mTrajY > 0) {
+  } else if (flight.y > 0) {
     ShowBall(true);
     picVector.Visible = true;
     // Not quite where a flight shows the ball: half its height to the left instead of half its width, and the
     // top 400 above the point.
-    Shape1.Left = ChartX(mTrajX) - Shape1.Height / 2;
-    Shape1.Top = 44600 - mTrajY * 7.54;
+    Shape1.Left = ChartX(flight.x) - Shape1.Height / 2;
+    Shape1.Top = 44600 - flight.y * 7.54;
   }
 }
 
@@ -164,19 +163,19 @@ void TrajectoryForm::cmdStop_Click() {
 
 // The landing leaves the buttons alone: cmdFire stays disabled until a scroll bar is moved.
 void TrajectoryForm::Timer1_Timer() {
-  if (mTrajY < 0) {
+  if (flight.y < 0) {
     // The ground is found: the ball stops, but this tick still makes its step, and the read-outs show it.
     scene().Beep();
     Timer1.Enabled = false;
     ShowBall(false);
-  } else if (mTrajY > 0) {
+  } else if (flight.y > 0) {
     ShowBall(true);
     picVector.Visible = true;
   }
-  BallisticStep(Flight(), Val(Label11.Caption));
+  BallisticStep(flight, Val(Label11.Caption));
   // Half the width both ways: in chart units the ball's width is not its height.
-  Shape1.Left = ChartX(mTrajX) - Shape1.Width / 2;
-  Shape1.Top = ChartY(mTrajY) - Shape1.Width / 2;
+  Shape1.Left = ChartX(flight.x) - Shape1.Width / 2;
+  Shape1.Top = ChartY(flight.y) - Shape1.Width / 2;
   LayProjectionLines();
   ShowFlightReadOuts();
   DrawVectors();
@@ -193,8 +192,8 @@ void TrajectoryForm::StartEventTimer() {
 void TrajectoryForm::tmrEvent_Timer() {
   tmrEvent.Interval = 0;
   tmrEvent.Enabled = false;
-  if (mTrajX == 0) return;
-  mPaceRatio = mTrajVx / mTrajX;
+  if (flight.x == 0) return;
+  mPaceRatio = flight.vx / flight.x;
   const std::int32_t interval = CLng(mPaceRatio * 100);
   if (interval >= 1) Timer1.Interval = interval;
 }
@@ -203,12 +202,8 @@ void TrajectoryForm::tmrEvent_Timer() {
 void TrajectoryForm::StartFlight(double dt) {
   mTrajElevationRad = Val(Label5.Caption) * 3.1416 / 180;
   mTrajV0 = Val(Label6.Caption);
-  mTrajVx = mTrajV0 * Cos(mTrajElevationRad);
-  mTrajVy = mTrajV0 * Sin(mTrajElevationRad);
-  mTrajX = 0;
-  mTrajY = 0;
-  mTrajTime = 0;
-  mTrajDt = dt;
+  Launch(flight, mTrajV0, mTrajElevationRad);
+  flight.dt = dt;
 }
 
 // In these units a kilometre is 7540 both ways. No control moves; all places on the form are counted anew.
@@ -242,12 +237,12 @@ void TrajectoryForm::ShowComponentReadOuts() {
 }
 
 void TrajectoryForm::ShowFlightReadOuts() {
-  Label20.Caption = Format(mTrajX, Pattern::TwoDecimals);
-  Label21.Caption = Format(mTrajY, Pattern::TwoDecimals);
-  Label23.Caption = Format(mTrajVx, Pattern::TwoDecimals);
-  Label25.Caption = Format(mTrajVy, Pattern::TwoDecimals);
-  Label27.Caption = Format(mTrajSpeed, Pattern::TwoDecimals);
-  Label29.Caption = Format(mTrajTime, Pattern::TwoDecimals);
+  Label20.Caption = Format(flight.x, Pattern::TwoDecimals);
+  Label21.Caption = Format(flight.y, Pattern::TwoDecimals);
+  Label23.Caption = Format(flight.vx, Pattern::TwoDecimals);
+  Label25.Caption = Format(flight.vy, Pattern::TwoDecimals);
+  Label27.Caption = Format(flight.speed, Pattern::TwoDecimals);
+  Label29.Caption = Format(flight.time, Pattern::TwoDecimals);
 }
 
 }  // namespace quintara

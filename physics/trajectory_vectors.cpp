@@ -13,8 +13,8 @@ constexpr double barb = 10;
 }  // namespace
 
 void TrajectoryForm::DrawVectors() {
-  if (mTrajVy > 0) DrawVectorsAscending();
-  if (mTrajVy < 0) DrawVectorsDescending();
+  if (flight.vy > 0) DrawVectorsAscending();
+  if (flight.vy < 0) DrawVectorsDescending();
 }
 
 // Lines count downwards, so on the way up the angle is the negative one of the path; the head turns with it.
@@ -31,8 +31,8 @@ void TrajectoryForm::DrawVectorsDescending() {
 }
 
 void TrajectoryForm::DrawComponents() {
-  Line6.Y2 = Line6.Y1 - (mTrajVy + mTrajVy);
-  Line5.X2 = Line5.X1 + (mTrajVx + mTrajVx);
+  Line6.Y2 = Line6.Y1 - (flight.vy + flight.vy);
+  Line5.X2 = Line5.X1 + (flight.vx + flight.vx);
   Line7.X1 = Line5.X2;
   Line7.Y1 = Line6.Y2;
 }

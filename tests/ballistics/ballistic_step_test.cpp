@@ -49,23 +49,25 @@ void PlotPoint(Single x, Single y) {
 }
 
 // As the game works out its previews.
-void FlyAtOnce(const FlightVariables& variables, double floor) {
-  FlightValues flight(variables);
+void FlyAtOnce(Flight& stored, double floor) {
+  Flight flight = stored;
   for (int step = 0; step < steps; ++step) {
     BallisticStep(flight, dragConstant);
     if (flight.y > floor) PlotPoint(flight.x, flight.y);
   }
-  flight.StoreIn(variables);
+  stored = flight;
 }
 
 // A compiler that goes on with the double where the rounded single is stored spoils only flights of this
 // kind.
 TEST(BallisticStepTest, AFlightWorkedOutAtOnceIsRoundedAtEachStore) {
-  Single dragTerm, ax, ay, vx = launchVelocity, vy = launchVelocity, speed, x, y, time;
-  const Single dt = 0.2;
-  FlyAtOnce({dragTerm, ax, ay, vx, vy, speed, x, y, time, dt}, -1e9);
+  Flight flight;
+  flight.vx = launchVelocity;
+  flight.vy = launchVelocity;
+  flight.dt = 0.2;
+  FlyAtOnce(flight, -1e9);
   EXPECT_EQ(plotted, FlightThroughMemory());
-  EXPECT_EQ((Point{x.Stored(), y.Stored()}), plotted.back());
+  EXPECT_EQ((Point{flight.x.Stored(), flight.y.Stored()}), plotted.back());
 }
 
 }  // namespace

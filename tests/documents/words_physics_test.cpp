@@ -147,9 +147,9 @@ TEST(AnalysisTest, TheStepMovesTheImpactAsItSays) {
     gun.Fire();
     const auto watched = static_cast<double>(gun.program.scene().dispatcher().now() - start);
     EXPECT_EQ(gun.Actual(), 5);
-    EXPECT_NEAR(gun.form.gDt, std::stod(row[1]), 1e-6);
-    EXPECT_NEAR(gun.form.gPosX, std::stod(row[2]), whole);
-    const double made = std::round(gun.form.gFlightTime / gun.form.gDt);
+    EXPECT_NEAR(gun.form.flight.dt, std::stod(row[1]), 1e-6);
+    EXPECT_NEAR(gun.form.flight.x, std::stod(row[2]), whole);
+    const double made = std::round(gun.form.flight.time / gun.form.flight.dt);
     if (row[0] == "Slow") {
       EXPECT_TRUE(made < steps[0] && made > steps[0] - 10) << made;
       EXPECT_NEAR(watched / 1000, steps[1], 0.5);
@@ -183,7 +183,7 @@ TEST(AnalysisTest, DragShortensTheShotAsItSays) {
     if (row[0] > 0) gun.TurnDragOn(row[0]);
     gun.Lay(60, 500);
     gun.Fire();
-    EXPECT_NEAR(gun.form.gPosX / 1000, row[1], tenth);
+    EXPECT_NEAR(gun.form.flight.x / 1000, row[1], tenth);
   }
 }
 
@@ -191,8 +191,8 @@ TEST(AnalysisTest, DragShortensTheShotAsItSays) {
 
 // What a tick of a flight works out, in the order of the nine lines.
 std::vector<double> Flight(const QuintaraForm& form) {
-  return {form.gDragTerm, form.gAx,   form.gAy,   form.gVx,        form.gVy,
-          form.gSpeed,    form.gPosX, form.gPosY, form.gFlightTime};
+  return {form.flight.dragTerm, form.flight.ax, form.flight.ay, form.flight.vx,  form.flight.vy,
+          form.flight.speed,    form.flight.x,  form.flight.y,  form.flight.time};
 }
 
 // Works out the lines of the document, each stored with single precision.
@@ -279,8 +279,8 @@ TEST(CodeTest, ItsStepByHandIsRight) {
   gun.Lay(shot[0], shot[1]);
   gun.Click(gun.form.Image7);
   const auto before = Numbers(code, "vx = [N] m/s and vy = [N] m/s");
-  EXPECT_NEAR(gun.form.gVx, before[0], tenth);
-  EXPECT_NEAR(gun.form.gVy, before[1], tenth);
+  EXPECT_NEAR(gun.form.flight.vx, before[0], tenth);
+  EXPECT_NEAR(gun.form.flight.vy, before[1], tenth);
   gun.Advance(17);
   const std::vector<double> after = Flight(gun.form);
   const auto lines = Found(code, "\n([1-9])  [a-z]+ += (?:([^\n=]+) = )?[N](?=\n)");
@@ -291,8 +291,8 @@ TEST(CodeTest, ItsStepByHandIsRight) {
     EXPECT_NEAR(line[1].empty() ? shown : Reckoner().Work(line[1]), shown, 0.06) << line[0];
   }
   const auto place = Numbers(code, "the shell is [N] m away and [N] m high");
-  EXPECT_NEAR(gun.form.gPosX, place[0], tenth);
-  EXPECT_NEAR(gun.form.gPosY, place[1], tenth);
+  EXPECT_NEAR(gun.form.flight.x, place[0], tenth);
+  EXPECT_NEAR(gun.form.flight.y, place[1], tenth);
 }
 
 TEST(CodeTest, ItsStepsAreAsLongAsItSays) {

@@ -80,7 +80,7 @@ TEST_F(CollisionTest, AShellThatEndsNowhereEndsSilently) {
   EXPECT_EQ(form.cmdAdvanced.Caption, "ON") << "drag stays on for the next shell";
 
   FireTo(9990, -1);
-  form.gVx = 10000;
+  form.flight.vx = 10000;
   Advance(17);
   EXPECT_TRUE(Burst()) << "the last tick may still burst";
 }

@@ -29,9 +29,9 @@ TEST_F(FiringTest, TheFirstTickOfAShellAndTheFlash) {
   Advance(16);
   EXPECT_FALSE(form.Shape1(0).Visible);
   Advance(1);
-  EXPECT_EQ(form.gDt, Single(0.885));
-  EXPECT_EQ(form.Shape1(0).Top, Single(9250 - form.gPosY * 0.55));
-  EXPECT_EQ(form.Shape1(1).Left, Single(form.gPosX * 0.438 - 790));
+  EXPECT_EQ(form.flight.dt, Single(0.885));
+  EXPECT_EQ(form.Shape1(0).Top, Single(9250 - form.flight.y * 0.55));
+  EXPECT_EQ(form.Shape1(1).Left, Single(form.flight.x * 0.438 - 790));
   EXPECT_TRUE(form.Shape1(0).Visible && form.Shape1(1).Visible && form.Line8.Visible && form.Line9.Visible);
   EXPECT_EQ(form.Line8.X1, Single(form.Shape1(0).Left + 380));
   EXPECT_EQ(form.Line9.Y2, form.Shape1(0).Top);
@@ -45,10 +45,10 @@ TEST_F(FiringTest, TheFlightTimeSettingCountsFromTheNextStep) {
   Lay("60", "700");
   Click(form.Image7);
   Advance(17);
-  const double before = form.gFlightTime;
+  const double before = form.flight.time;
   form.HScroll1.Value = 1;
   Advance(17);
-  EXPECT_EQ(form.gFlightTime, Single(before + Single(0.059)));
+  EXPECT_EQ(form.flight.time, Single(before + Single(0.059)));
 }
 
 TEST_F(FiringTest, TheHeightBarStaysAtTheSummit) {
@@ -57,9 +57,9 @@ TEST_F(FiringTest, TheHeightBarStaysAtTheSummit) {
   double highest = 0;
   for (int i = 0; i < 50; ++i) {
     Advance(17);
-    highest = std::max(highest, static_cast<double>(form.gPosY));
+    highest = std::max(highest, static_cast<double>(form.flight.y));
   }
-  EXPECT_LT(form.gVy, 0);
+  EXPECT_LT(form.flight.vy, 0);
   EXPECT_NEAR(form.Line9.Y2, 9250 - highest * 0.55, 40) << "it stops one step short of the turn at most";
 }
 
@@ -68,8 +68,8 @@ TEST_F(FiringTest, ASecondClickInFlightStartsTheNextShellFromTheGun) {
   Click(form.Image7);
   Advance(170);
   Click(form.Image7);
-  EXPECT_EQ(form.gPosX, 0);
-  EXPECT_EQ(form.gFlightTime, 0);
+  EXPECT_EQ(form.flight.x, 0);
+  EXPECT_EQ(form.flight.time, 0);
   EXPECT_EQ(form.Label21.Caption, "3");
   EXPECT_EQ(form.Label25.Caption, "2");
   EXPECT_FALSE(form.Shape6(3).Visible);

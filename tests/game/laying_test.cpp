@@ -53,7 +53,7 @@ TEST_F(LayingTest, ForetellsTheTimeToImpact) {
   EXPECT_EQ(TimeOf(250, 30, 1), TimeCaption("25"));
   EXPECT_EQ(TimeOf(750, 80, 1), TimeCaption("150"));
   EXPECT_EQ(form.gStepCount, 3750);
-  EXPECT_LT(form.gPosY, -10000) << "it flies on under ground to the last step";
+  EXPECT_LT(form.flight.y, -10000) << "it flies on under ground to the last step";
 }
 
 TEST_F(LayingTest, AnImpossibleVelocityEndsToo) {
@@ -73,7 +73,7 @@ TEST_F(LayingTest, DragIsDrawnByChance) {
 
   form.cmdAdvanced.Enabled = true;  // as a Reset does
   form.Label25.Caption = "2";
-  form.gFlightTime = 12.9;
+  form.flight.time = 12.9;
   Click(form.cmdAdvanced);
   EXPECT_EQ(form.cmdAdvanced.Caption, "OFF");
   EXPECT_EQ(form.Label15.Caption, "0");
@@ -84,7 +84,7 @@ TEST_F(LayingTest, DragIsDrawnByChance) {
   chance.Queue(0.9999);
   Click(form.cmdAdvanced);
   EXPECT_EQ(form.Label15.Caption, "0.01");
-  EXPECT_EQ(form.gDt, Single(0.059)) << "the finest step, whatever the setting";
+  EXPECT_EQ(form.flight.dt, Single(0.059)) << "the finest step, whatever the setting";
   form.HScroll1.Value = 14;
   EXPECT_EQ(form.Label31.Caption, TimeCaption(ToText(Single(69))))
       << "the setting shows the last laying's time";

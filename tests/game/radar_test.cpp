@@ -67,9 +67,9 @@ TEST_F(RadarTest, TheScopeShowsTheSliceBelowTheTarget) {
 
 TEST_F(RadarTest, NoSliceBeginsOrEndsOnItsEdge) {
   Search(6000);
-  form.gDt = 0;  // the target stands where it is put
+  form.flight.dt = 0;  // the target stands where it is put
   const auto shownAt = [this](double place) {
-    form.gPosX = place;
+    form.flight.x = place;
     Advance(50);
     return form.Picture4.Picture.Get().name;
   };

@@ -44,10 +44,10 @@ struct RunningGame {
     form.Image7.Enabled = true;
     Click(form.Image7);
     const double dt = Single(form.HScroll1.Value * 0.059);
-    form.gVx = 0;
-    form.gPosX = x;
-    form.gPosY = std::max(y, 0.0) + 1;
-    form.gVy = (y - form.gPosY + 4.9 * dt * dt) / dt + 9.8 * dt;
+    form.flight.vx = 0;
+    form.flight.x = x;
+    form.flight.y = std::max(y, 0.0) + 1;
+    form.flight.vy = (y - form.flight.y + 4.9 * dt * dt) / dt + 9.8 * dt;
     Advance(17);
   }
 };
