@@ -34,11 +34,11 @@ void AnalysisForm::Open(HelpTopic topic) {
   cmdCancel.Top = document.cancelTop;
   cmdCopy.Left = document.copyLeft;
   cmdCopy.Top = document.copyTop;
-  main_.Label28.Visible = document.placeNames;
-  main_.Label29.Visible = document.placeNames;
+  main_.valleyName.Visible = document.placeNames;
+  main_.peakName.Visible = document.placeNames;
   cmdTrajectory.Visible = document.demonstrations;
   cmdFreeFall.Visible = document.demonstrations;
-  ReadDocumentInto(rtbMath, main_.shared.gAppPath, document.file);
+  ReadDocumentInto(rtbMath, main_.shared.programFolder, document.file);
   Show();
 }
 
@@ -78,8 +78,8 @@ void AnalysisForm::PlaceBesideMainForm(Form& demonstration) {
 
 void AnalysisForm::cmdCancel_Click() {
   Analysis.Unload();
-  main_.Label28.Visible = false;
-  main_.Label29.Visible = false;
+  main_.valleyName.Visible = false;
+  main_.peakName.Visible = false;
   frmTrajectory.Unload();
   projectile.Unload();
   // This touch loads the form again, hidden; it is meant so that the next opening starts with the button off.

@@ -23,7 +23,7 @@ MastersForm::MastersForm(Scene& owner, const MainForm& mainForm)
 }
 
 void MastersForm::Form_Load() {
-  const std::string path = main_.shared.gAppPath + "Masters.txt";
+  const std::string path = main_.shared.programFolder + "Masters.txt";
   const auto lines = scene().files().ReadLines(path);
   fileIsUnread_ = !lines && scene().files().Exists(path);
   if (fileIsUnread_) {
@@ -36,7 +36,7 @@ void MastersForm::Form_Load() {
 
 void MastersForm::Text1_KeyPress(std::int16_t KeyAscii) {
   if (KeyAscii != enter) return;
-  const double points = Val(main_.Label17.Caption);
+  const double points = Val(main_.score.Caption);
   if (points >= masterPoints && points < grandMasterPoints) {
     List1.AddItem(Text1.Text.Get() + " - Master of Quintara");
   } else if (points >= grandMasterPoints) {
@@ -49,10 +49,11 @@ void MastersForm::Text1_KeyPress(std::int16_t KeyAscii) {
 
 void MastersForm::cmdRemove_Click() {
   constexpr std::int32_t yesNoWithExclamation = 52;
-  main_.shared.gMsgText = "Are you sure you want to erase all names from the Quintara Master list?";
-  main_.shared.gMsgResult =
-      ToText(scene().MsgBox(main_.shared.gMsgText, yesNoWithExclamation, "Removing names"));
-  if (main_.shared.gMsgResult != "6") return;
+  constexpr std::int32_t yes = 6;
+  const std::int32_t answer =
+      scene().MsgBox("Are you sure you want to erase all names from the Quintara Master list?",
+                     yesNoWithExclamation, "Removing names");
+  if (answer != yes) return;
   List1.Clear();
   Picture1.Visible = false;
   SaveList();
@@ -63,7 +64,7 @@ void MastersForm::cmdCancel_Click() {
 }
 
 void MastersForm::SaveList() {
-  if (!fileIsUnread_ && scene().files().WriteLines(main_.shared.gAppPath + "Masters.txt", List1.items()))
+  if (!fileIsUnread_ && scene().files().WriteLines(main_.shared.programFolder + "Masters.txt", List1.items()))
     return;
   scene().TellFault(
       "The list of masters could not be saved in the file Masters.txt. The file was left as it is; the list "

@@ -36,10 +36,9 @@ void RequireRoom(const Container& surface) {
   Require(surface.dots().size() <= mostDots, "a drawing layer doesn't fill up", FullName(surface.object()));
 }
 
-void RequireFlight(const Module1& shared) {
-  for (const double number :
-       {shared.flight.vx, shared.flight.vy, shared.flight.speed, shared.flight.x, shared.flight.y,
-        shared.flight.time, shared.flight.ax, shared.flight.ay, shared.flight.dragTerm}) {
+void RequireFlight(const Flight& flight) {
+  for (const double number : {flight.vx, flight.vy, flight.speed, flight.x, flight.y, flight.time, flight.ax,
+                              flight.ay, flight.dragTerm}) {
     Require(std::isfinite(number), "the flight is one of numbers");
   }
 }
@@ -65,7 +64,7 @@ void RequireGameOrder(Program& program) {
   }
   QuintaraForm& form = program.quintara();
   if (!form.loaded()) return;
-  RequireFlight(form);
+  RequireFlight(form.flight);
   RequireScores(form);
   // Only a lock-on at the very turn leaves the other timer one tick more.
   Require(!(form.tmrBounce.Enabled && form.tmrBounce2.Enabled), "the target runs one way");

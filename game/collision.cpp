@@ -95,7 +95,7 @@ void QuintaraForm::HitTarget() {
   Image7.Enabled = false;
   Image8.Visible = true;
   Image8.Left = Image5.Left;
-  PlayUnlessSoundIsOff(scene(), "bombex~2.wav");
+  shared.PlayUnlessSoundIsOff(scene(), "bombex~2.wav");
   ThrowFragments();
 
   Timer1.Enabled = true;

@@ -64,7 +64,7 @@ void QuintaraForm::Burst(const BurstRule& rule) {
   }
   ChargeMiss();
   rule.marker.Visible = false;
-  PlayUnlessSoundIsOff(scene(), "bomb.wav");
+  shared.PlayUnlessSoundIsOff(scene(), "bomb.wav");
 
   for (const Ray& ray : rule.rays) {
     ray.line.X2 = rule.marker.Left + rule.marker.Width / 2;

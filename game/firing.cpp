@@ -24,7 +24,7 @@ void QuintaraForm::Image7_Click() {
   Line12.Visible = true;
   Timer1.Interval = 400;
   Timer1.Enabled = true;
-  PlayUnlessSoundIsOff(scene(), "biggun.wav");
+  shared.PlayUnlessSoundIsOff(scene(), "biggun.wav");
 
   CountShell();
   if (Val(Label25.Caption) == 5) PrepareBonusShot();

@@ -46,7 +46,7 @@ void QuintaraForm::mnuReadme_Click() {
   txtReadme.Top = 400;
   cmdCloseReadme.Left = 8000;
   cmdCloseReadme.Top = 6000;
-  ReadDocumentInto(txtReadme, gAppPath, "Readme.rtf");
+  ReadDocumentInto(txtReadme, shared.programFolder, "Readme.rtf");
 }
 
 void QuintaraForm::cmdCloseReadme_Click() {
@@ -56,10 +56,10 @@ void QuintaraForm::cmdCloseReadme_Click() {
 
 void QuintaraForm::mnuUninstall_Click() {
   constexpr std::int32_t okWithExclamation = 48;
-  gMsgText =
+  scene().MsgBox(
       "To uninstall Quintara and all it's associated files from your computer, simply double click the "
-      "Add/Remove Programs icon on Windows Control Panel, then select Quintara and click Add/Remove.";
-  gMsgResult = ToText(scene().MsgBox(gMsgText, okWithExclamation, "Uninstall Quintara"));
+      "Add/Remove Programs icon on Windows Control Panel, then select Quintara and click Add/Remove.",
+      okWithExclamation, "Uninstall Quintara");
 }
 
 }  // namespace quintara

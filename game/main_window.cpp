@@ -29,10 +29,11 @@ void QuintaraForm::Form_Load() {
   DrawFragmentWidths();
 }
 
-// All data files are found through gAppPath. At the root of a drive the path ends in the separator already.
+// All data files are found through shared.programFolder. At the root of a drive the path ends in the
+// separator already.
 void QuintaraForm::SetAppFolder() {
-  gAppPath = scene().AppPath();
-  if (Right(gAppPath, 1) != "\\") gAppPath += "\\";
+  shared.programFolder = scene().AppPath();
+  if (Right(shared.programFolder, 1) != "\\") shared.programFolder += "\\";
 }
 
 void QuintaraForm::LayScopeGrid() {
@@ -53,7 +54,7 @@ void QuintaraForm::DrawFragmentWidths() {
 
 // Record 5 of extra.txt carries the setting of HScroll1 from one target to the next.
 void QuintaraForm::StoreFlightTimeSetting() {
-  if (scene().files().WriteRecord(gAppPath + "extra.txt", 5, ToText(HScroll1.Value))) return;
+  if (scene().files().WriteRecord(shared.programFolder + "extra.txt", 5, ToText(HScroll1.Value))) return;
   scene().TellFault(
       "The flight time setting could not be saved in the file extra.txt. The file was left as it is, and the "
       "game goes on.");

@@ -13,7 +13,7 @@ void QuintaraForm::cmdMagnify_Click() {
   ShowMaximumScore();
   // The setting of the last target. A record that is no number, or none in range, counts as the nearest
   // bound.
-  if (const auto record = scene().files().ReadRecord(gAppPath + "extra.txt", 5)) {
+  if (const auto record = scene().files().ReadRecord(shared.programFolder + "extra.txt", 5)) {
     HScroll1.Value = CInt(Val(*record));
   }
 

@@ -17,7 +17,7 @@ namespace quintara {
 // There is no game object. The state of a game is what the captions say (Label21 the shell in the gun,
 // Label25 the shots fired, Label17 and Label23 the scores), which controls are enabled, and the few variables
 // below.
-class QuintaraForm : public QuintaraControls, public Module1 {
+class QuintaraForm : public QuintaraControls {
  public:
   // The windows that it opens, or closes when it closes.
   struct SideForms {
@@ -31,7 +31,19 @@ class QuintaraForm : public QuintaraControls, public Module1 {
   QuintaraForm(Scene& scene, const SideForms& sideForms);
 
   // What the documents' windows use of this form.
-  MainForm ForDocuments() { return {*this, Label17, Label28, Label29, *this}; }
+  MainForm ForDocuments() { return {*this, Label17, Label28, Label29, shared}; }
+
+  SharedSettings shared;
+
+  // The shell's, the preview's and, with its place in twips, that of the radar's target: each of them sets
+  // what it needs of it afresh when it starts.
+  Flight flight;
+  std::int16_t gLoopIndex = 0;  // counter of the loops over scales and arrays
+  Single gMuzzleVelocity;       // m/s
+  Single gElevationRad;         // elevation of the shot
+  Single gBarrelRad;            // elevation of the drawn barrel
+  Single gElevationScroll;      // VScroll1.Value
+  std::int16_t gStepCount = 0;  // counter of the preview loops
 
  private:
   static constexpr std::size_t fragmentCount = 5;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "scene/controls.h"
-#include "documents/module1.h"
 
 namespace quintara {
 

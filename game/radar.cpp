@@ -86,7 +86,7 @@ void QuintaraForm::SetTrackSpeed() {
 void QuintaraForm::ShowProfilePicture() {
   for (const ProfileBand& band : profileBands) {
     if (flight.x > band.above && flight.x < band.below) {
-      scene().LoadPictureInto(Picture4, gAppPath + band.file);
+      scene().LoadPictureInto(Picture4, shared.programFolder + band.file);
       return;
     }
   }
@@ -102,7 +102,7 @@ void QuintaraForm::GrowTarget() {
 }
 
 void QuintaraForm::LockOn(Timer& running) {
-  if (gSoundOff == 0) scene().Beep();
+  if (!shared.soundIsOff) scene().Beep();
   DrawSightings();
   MeasureRange();
 

@@ -17,13 +17,8 @@ void QuintaraForm::cmdCancel_Click() {
 }
 
 void QuintaraForm::cmdSound_Click() {
-  if (gSoundOff == 0) {
-    gSoundOff = 1;
-    cmdSound.Caption = "Sound OFF";
-  } else {
-    gSoundOff = 0;
-    cmdSound.Caption = "Sound ON";
-  }
+  shared.soundIsOff = !shared.soundIsOff;
+  cmdSound.Caption = shared.soundIsOff ? "Sound OFF" : "Sound ON";
 }
 
 // On to the next target, or to a new game once the sixth shell is fired.

@@ -16,7 +16,7 @@ void Scene::End() {
   platform_.ProgramEnded();
 }
 
-void Scene::sndPlaySoundA(const std::string& path, std::int32_t /*flags*/) {
+void Scene::PlaySound(const std::string& path) {
   platform_.PlaySound(files_.Locate(path));
 }
 

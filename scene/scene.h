@@ -43,9 +43,8 @@ class Scene {
   Single Rnd() { return chance_.Rnd(); }
   void Randomize() { chance_.Randomize(platform_.Seed()); }
 
-  // Starts a wave file given by its full path and returns at once. The flags are always 1, which says just
-  // that.
-  void sndPlaySoundA(const std::string& path, std::int32_t flags);
+  // Starts a wave file given by its full path and returns at once.
+  void PlaySound(const std::string& path);
   void Beep() { platform_.Beep(); }
   // Shows a modal box; returns the number of the button chosen.
   std::int32_t MsgBox(const std::string& text, std::int32_t buttons, const std::string& title);

@@ -109,7 +109,7 @@ TEST(AppFolder, EndsInOneSeparator) {
     RecordingPlatform platform(path);
     Program program(platform);
     program.Start();
-    EXPECT_EQ(program.quintara().gAppPath, joined);
+    EXPECT_EQ(program.quintara().shared.programFolder, joined);
   }
 }
 
