@@ -6,9 +6,9 @@
 #include "fuzz/require.h"
 #include "fuzz/scene_order.h"
 #include "fuzz/shipped_files.h"
+#include "host/command_loop.h"
 #include "host/names.h"
 #include "host/properties.h"
-#include "host/session.h"
 #include "program/program.h"
 
 namespace quintara::fuzz {
@@ -44,7 +44,7 @@ class TalkingHost {
     const bool ended = program_.scene().ended();
     out_.str("");
     std::istringstream in(line + "\n");
-    session_.Run(in);
+    loop_.Run(in);
     const std::string printed = out_.str();
     if (printed.empty()) return;
     const std::string answer = ClosingLine(printed);
@@ -112,7 +112,7 @@ class TalkingHost {
   FuzzedPlatform platform_{out_};
   Program program_{platform_};
   SceneOrder order_{program_.scene()};
-  host::Session session_{program_.scene(), platform_, out_, [this] { program_.Start(); }};
+  host::CommandLoop loop_{program_.scene(), platform_, out_, [this] { program_.Start(); }};
 };
 
 // The time that a session may let go by, in milliseconds, so that none takes for ever.

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <iostream>
 
-#include "host/session.h"
+#include "host/command_loop.h"
 #include "program/program.h"
 
 namespace quintara::host {
@@ -36,8 +36,8 @@ int RunHost(int argumentCount, char** arguments) {
   std::ios::sync_with_stdio(false);
   HostPlatform platform(folder, std::cout);
   Program program(platform);
-  Session session(program.scene(), platform, std::cout, [&program] { program.Start(); });
-  session.Run(std::cin);
+  CommandLoop loop(program.scene(), platform, std::cout, [&program] { program.Start(); });
+  loop.Run(std::cin);
   return 0;
 }
 

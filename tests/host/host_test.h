@@ -5,7 +5,7 @@
 #include <sstream>
 #include <string>
 
-#include "host/session.h"
+#include "host/command_loop.h"
 #include "program/program.h"
 #include "tests/support/recording_platform.h"
 
@@ -17,7 +17,7 @@ class HostTest : public ::testing::Test {
   std::string Say(const std::string& lines) {
     out.str("");
     std::istringstream in(lines);
-    session.Run(in);
+    loop.Run(in);
     return out.str();
   }
   void Start() { ASSERT_EQ(Say("start"), "! show Quintara\nok\n"); }
@@ -44,7 +44,7 @@ class HostTest : public ::testing::Test {
   HostPlatform platform{folder.path() / "", out};
   Program program{platform};
   QuintaraForm& form = program.quintara();
-  Session session{program.scene(), platform, out, [this] { program.Start(); }};
+  CommandLoop loop{program.scene(), platform, out, [this] { program.Start(); }};
 };
 
 }  // namespace quintara::host

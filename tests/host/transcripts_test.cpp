@@ -2,7 +2,7 @@
 
 #include <sstream>
 
-#include "host/session.h"
+#include "host/command_loop.h"
 #include "program/program.h"
 #include "tests/support/recording_platform.h"
 
@@ -20,9 +20,9 @@ void ExpectTranscript(const fs::path& dataFolder, const std::string& name) {
   std::ostringstream out;
   HostPlatform platform{dataFolder, out};
   Program program{platform};
-  Session session{program.scene(), platform, out, [&program] { program.Start(); }};
+  CommandLoop loop{program.scene(), platform, out, [&program] { program.Start(); }};
   std::ifstream script(scripts / (name + ".script"));
-  session.Run(script);
+  loop.Run(script);
 
   std::istringstream played(out.str());
   std::istringstream kept(BytesOf(scripts / (name + ".transcript")));

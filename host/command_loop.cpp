@@ -1,4 +1,4 @@
-#include "host/session.h"
+#include "host/command_loop.h"
 
 #include <exception>
 #include <istream>
@@ -14,7 +14,7 @@ bool ReadLine(std::istream& in, std::string& line) {
   char c = 0;
   if (!in.get(c)) return false;
   for (; in && c != '\n'; in.get(c)) {
-    if (line.size() < Session::longestLine + 2) line += c;
+    if (line.size() < CommandLoop::longestLine + 2) line += c;
   }
   if (line.ends_with('\r')) line.pop_back();
   return true;
@@ -22,7 +22,7 @@ bool ReadLine(std::istream& in, std::string& line) {
 
 bool IsSkipped(const std::string& line) {
   const bool blank =
-      line.size() <= Session::longestLine && line.find_first_not_of(" \t") == std::string::npos;
+      line.size() <= CommandLoop::longestLine && line.find_first_not_of(" \t") == std::string::npos;
   return blank || line.starts_with('#');
 }
 
@@ -34,14 +34,14 @@ void RequirePhase(const Host& host, When when) {
 
 }  // namespace
 
-void Session::Run(std::istream& in) {
+void CommandLoop::Run(std::istream& in) {
   std::string line;
   while (!host_.left && ReadLine(in, line)) {
     if (!IsSkipped(line)) Answer(line);
   }
 }
 
-void Session::Answer(const std::string& line) {
+void CommandLoop::Answer(const std::string& line) {
   // A handler that reaches for an element that doesn't exist throws, too. It stops there, and the host goes
   // on as with a command that it refuses.
   try {
@@ -53,7 +53,7 @@ void Session::Answer(const std::string& line) {
   host_.out << '\n' << std::flush;
 }
 
-InputResult Session::CarryOut(const std::string& line) {
+InputResult CommandLoop::CarryOut(const std::string& line) {
   if (line.size() > longestLine) throw Refusal("the line is too long");
   const std::vector<Word> words = SplitWords(line);
   const Command* command = FindCommand(PlainWord(words.front()));
