@@ -3,7 +3,7 @@
 #include "fuzz/bytes.h"
 #include "fuzz/require.h"
 #include "tests/support/rich_text_faults.h"
-#include "text/rich_text_characters.h"
+#include "text/utf8.h"
 
 namespace quintara::fuzz {
 namespace {

@@ -5,6 +5,7 @@
 #include "fuzz/require.h"
 #include "host/names.h"
 #include "host/properties.h"
+#include "text/utf8.h"
 
 namespace quintara::fuzz {
 namespace {

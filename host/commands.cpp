@@ -5,7 +5,7 @@
 
 #include "host/names.h"
 #include "host/properties.h"
-#include "text/rich_text_characters.h"
+#include "text/utf8.h"
 
 namespace quintara::host {
 namespace {
@@ -114,10 +114,9 @@ InputResult Type(Host& host, const Arguments& arguments) {
 }
 
 InputResult Key(Host& host, const Arguments& arguments) {
-  constexpr std::int32_t lastCharacter = 0x10FFFF;
   auto& box = ControlIn<TextBox>(host, arguments[0], "text box");
   const std::int32_t code = CountIn(arguments[1]);
-  if (code > lastCharacter) throw Refusal("no character has that code");
+  if (code > static_cast<std::int32_t>(lastCharacter)) throw Refusal("no character has that code");
   return UserTypes(box, code);
 }
 

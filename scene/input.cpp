@@ -4,6 +4,7 @@
 #include <string>
 
 #include "scene/scene.h"
+#include "text/utf8.h"
 
 namespace quintara {
 namespace {
@@ -80,16 +81,6 @@ InputResult Step(ScrollBar& bar, BarEnd end, std::int16_t step) {
   return Use(bar, [&bar, end, step] { bar.Value = Towards(end, bar.Value.Get(), bar.Min, bar.Max, step); });
 }
 
-std::string Utf8Of(std::int32_t character) {
-  const auto code = static_cast<std::uint32_t>(character);
-  const auto tail = [](std::uint32_t bits) { return static_cast<char>(0x80 | (bits & 0x3F)); };
-  const auto head = [](std::uint32_t bits) { return static_cast<char>(bits); };
-  if (code < 0x80) return {head(code)};
-  if (code < 0x800) return {head(0xC0 | code >> 6), tail(code)};
-  if (code < 0x10000) return {head(0xE0 | code >> 12), tail(code >> 6), tail(code)};
-  return {head(0xF0 | code >> 18), tail(code >> 12), tail(code >> 6), tail(code)};
-}
-
 std::string WithoutLastCharacter(std::string text) {
   const auto isTail = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; };
   while (!text.empty() && isTail(text.back())) text.pop_back();
@@ -97,9 +88,13 @@ std::string WithoutLastCharacter(std::string text) {
   return text;
 }
 
-bool IsCharacter(std::int32_t code) {
-  const bool surrogate = code >= 0xD800 && code <= 0xDFFF;
-  return code >= 32 && code != 127 && code <= 0x10FFFF && !surrogate;
+bool IsTyped(std::int32_t code) {
+  return code >= 32 && code != 127 && IsCharacter(static_cast<char32_t>(code));
+}
+
+std::string WithCharacter(std::string text, std::int32_t code) {
+  AppendUtf8(text, static_cast<char32_t>(code));
+  return text;
 }
 
 }  // namespace
@@ -172,7 +167,7 @@ InputResult UserTypes(TextBox& box, std::int32_t character) {
     box.KeyPress.Raise(static_cast<std::int16_t>(fits ? character : 0));
     if (!IsShown(box)) return;
     if (character == backspace) box.Text = WithoutLastCharacter(box.Text);
-    if (IsCharacter(character)) box.Text = box.Text.Get() + Utf8Of(character);
+    if (IsTyped(character)) box.Text = WithCharacter(box.Text, character);
   });
 }
 

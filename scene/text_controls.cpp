@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "scene/form.h"
+#include "text/utf8.h"
 
 namespace quintara {
 

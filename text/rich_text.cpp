@@ -1,8 +1,8 @@
 #include "text/rich_text.h"
 
 #include "text/rich_text_builder.h"
-#include "text/rich_text_characters.h"
 #include "text/rich_text_reader.h"
+#include "text/utf8.h"
 
 namespace quintara {
 

@@ -88,12 +88,4 @@ struct RichText {
 // the limits above is passed over. The paragraph end that closes the last paragraph starts no further one.
 RichText ReadRichText(std::string_view rtf);
 
-// The number of characters (Unicode code points) in `utf8`. A byte that is not part of valid UTF-8 counts as
-// one character.
-std::size_t CharacterCount(std::string_view utf8);
-
-// The part of `utf8` that begins `start` characters into it and is `length` characters long, counted as by
-// CharacterCount. It ends with the text, and is empty if it would begin behind it.
-std::string CharacterSlice(std::string_view utf8, std::size_t start, std::size_t length);
-
 }  // namespace quintara

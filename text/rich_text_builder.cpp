@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "text/rich_text_characters.h"
+#include "text/utf8.h"
 
 namespace quintara {
 

@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "text/rich_text_characters.h"
+#include "text/utf8.h"
+#include "text/windows_1252.h"
 
 namespace quintara {
 

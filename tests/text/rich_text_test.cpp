@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "tests/support/rich_text_faults.h"
+#include "text/utf8.h"
 
 namespace quintara {
 namespace {
