@@ -44,7 +44,7 @@ void WaitUntilOnScreen(const QWidget& window) {
 constexpr int formWidth = 1015, formHeight = 713;
 
 struct Game {
-  TourPlatform platform{QString(DATA)};
+  TourPlatform platform{QString(PROJECT_FOLDER "/data")};
   Program program{platform};
   Session session{program.scene()};
   QuintaraForm& form = program.quintara();

@@ -27,6 +27,18 @@ if(QUINTARA_SANITIZE)
   endif()
 endif()
 
+if(QUINTARA_FUZZ)
+  if(NOT CMAKE_CXX_COMPILER_ID STREQUAL Clang)
+    message(FATAL_ERROR "QUINTARA_FUZZ needs clang, whose libFuzzer feeds the targets, and this is "
+      "${CMAKE_CXX_COMPILER_ID}. Configure a fresh folder with -DCMAKE_CXX_COMPILER=clang++, or call fuzz/run.")
+  endif()
+  # All code tells the fuzzer where it has been, and the sanitizers when it goes astray.
+  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer
+    -g1)
+  add_compile_definitions(_GLIBCXX_ASSERTIONS)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
 # Each folder is compiled at once: file by file most of a build's time would go into reading the same headers again.
 set(CMAKE_UNITY_BUILD ON CACHE BOOL "Compile the files of a target at once instead of one by one")
 set(CMAKE_UNITY_BUILD_BATCH_SIZE 0)
@@ -48,10 +60,15 @@ function(quintara_library name)
   target_link_libraries(${name} ${scope} ${ARGN})
 endfunction()
 
-# quintara_test_program(NAME LIBRARY SOURCE...): a GoogleTest program whose cases ctest runs one by one. What it tests
-# is optimised; to optimise the test as well would take longer than all its runs.
+# quintara_test_program(NAME LIBRARY [SOURCE...]): a GoogleTest program whose cases ctest runs one by one, made of the
+# sources named or else of all those of its folder. What it tests is optimised; to optimise the test as well would take
+# longer than all its runs.
 function(quintara_test_program name library)
-  add_executable(${name} ${ARGN})
+  set(sources ${ARGN})
+  if(NOT sources)
+    file(GLOB sources CONFIGURE_DEPENDS *.cpp)
+  endif()
+  add_executable(${name} ${sources})
   target_link_libraries(${name} PRIVATE ${library} GTest::gtest)
   if(NOT MSVC)
     target_compile_options(${name} PRIVATE $<$<CONFIG:Release>:-O0>)
@@ -59,13 +76,8 @@ function(quintara_test_program name library)
   gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST)
 endfunction()
 
-# quintara_test(NAME LIBRARY [SOURCE...]): one that needs no main function of its own. Without a SOURCE it is made of all
-# those of its folder.
+# quintara_test(NAME LIBRARY [SOURCE...]): one that needs no main function of its own.
 function(quintara_test name library)
-  set(sources ${ARGN})
-  if(NOT sources)
-    file(GLOB sources CONFIGURE_DEPENDS *.cpp)
-  endif()
-  quintara_test_program(${name} ${library} ${sources})
+  quintara_test_program(${name} ${library} ${ARGN})
   target_link_libraries(${name} PRIVATE GTest::gtest_main)
 endfunction()

@@ -11,7 +11,7 @@
 #include <optional>
 #include <utility>
 
-#include "desktop/wave_file.h"
+#include "files/wave_file.h"
 #endif
 
 namespace quintara::desktop {

@@ -14,7 +14,7 @@ inline constexpr const char* programFolder = "/quintara";
 inline const FileContents& ShippedFiles() {
   static const FileContents files = [] {
     FileContents read;
-    const std::filesystem::path data = DATA_FOLDER;
+    const std::filesystem::path data = PROJECT_FOLDER "/data";
     for (const auto& entry : std::filesystem::recursive_directory_iterator(data)) {
       const auto kind = entry.path().extension();
       if (kind != ".rtf" && kind != ".bmp") continue;

@@ -16,6 +16,7 @@
 namespace quintara::desktop {
 namespace {
 
+const QString goldenFolder = PROJECT_FOLDER "/tests/desktop/golden";
 constexpr int block = 12;  // pixels across
 constexpr double mostOfBlock = 0.3, mostOfAll = 0.005;
 
@@ -64,7 +65,7 @@ QImage AsKept(const QImage& picture) {
 
 void CompareWithGolden(const QString& name, const QImage& seen) {
   const QString file = QString("/%1.png").arg(name);
-  const QImage golden = QImage(GOLDEN + file).convertToFormat(QImage::Format_RGB32);
+  const QImage golden = QImage(goldenFolder + file).convertToFormat(QImage::Format_RGB32);
   EXPECT_EQ(seen.size(), golden.size()) << name.toStdString();
   if (seen.size() != golden.size()) return;
   const Difference difference = Compare(seen, golden);
@@ -82,18 +83,18 @@ void CompareWithGolden(const QString& name, const QImage& seen) {
 TEST(GoldenTest, EveryStageOfTheTourLooksAsItDid) {
   const bool renews = qEnvironmentVariableIsSet("QUINTARA_RENEW_GOLDEN");
   QStringList stages;
-  Tour tour(DATA, [&](const QString& name, const QImage& picture) {
+  Tour tour(PROJECT_FOLDER "/data", [&](const QString& name, const QImage& picture) {
     if (name.startsWith("screenshot")) return;
     stages << name + ".png";
     if (renews) {
-      EXPECT_TRUE(AsKept(picture).save(QString(GOLDEN "/%1.png").arg(name)));
+      EXPECT_TRUE(AsKept(picture).save(goldenFolder + ('/' + name + ".png")));
     } else {
       CompareWithGolden(name, AsKept(picture));
     }
   });
   tour.Play();
   stages.sort();
-  EXPECT_EQ(stages, QDir(GOLDEN).entryList({"*.png"}, QDir::Files, QDir::Name)) << "a stage has gone";
+  EXPECT_EQ(stages, QDir(goldenFolder).entryList({"*.png"}, QDir::Files, QDir::Name)) << "a stage has gone";
 }
 
 TEST(GoldenTest, ALostButtonAndAShiftedCaptionAreSeen) {

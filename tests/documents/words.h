@@ -37,7 +37,7 @@ inline constexpr const char* analysis = documents[3].file;
 inline constexpr const char* code = documents[4].file;
 
 inline fs::path DataFolder() {
-  return fs::path(PROJECT_FOLDER) / "data";
+  return PROJECT_FOLDER "/data";
 }
 
 inline std::string Source(const std::string& file) {

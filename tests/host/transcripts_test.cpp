@@ -15,8 +15,8 @@ namespace fs = std::filesystem;
 // Renew that, after a change that is meant, with quintara-host FOLDER <NAME.script >NAME.transcript, FOLDER
 // being a fresh copy of the data folder.
 void ExpectTranscript(const fs::path& dataFolder, const std::string& name) {
-  const fs::path scripts = fs::path(PROJECT_FOLDER) / "tests" / "host";
-  fs::copy(fs::path(PROJECT_FOLDER) / "data" / "Graphics", dataFolder / "Graphics");
+  const fs::path scripts = PROJECT_FOLDER "/tests/host";
+  fs::copy(PROJECT_FOLDER "/data/Graphics", dataFolder / "Graphics");
   std::ostringstream out;
   HostPlatform platform{dataFolder, out};
   Program program{platform};

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace quintara::desktop {
+namespace quintara {
 
 // A sound as plain samples: of 16 bits signed, or of 8 bits unsigned.
 struct Wave {
@@ -18,4 +18,4 @@ struct Wave {
 // played. Samples that a file lacks at its end are left out.
 std::optional<Wave> ReadWave(std::string_view file);
 
-}  // namespace quintara::desktop
+}  // namespace quintara

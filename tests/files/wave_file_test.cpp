@@ -1,14 +1,14 @@
-#include "desktop/wave_file.h"
+#include "files/wave_file.h"
 
 #include <gtest/gtest.h>
 
 #include "tests/support/recording_platform.h"
 
-namespace quintara::desktop {
+namespace quintara {
 namespace {
 
 std::string SoundFile(const std::string& name) {
-  return BytesOf(std::filesystem::path(DATA) / name);
+  return BytesOf(std::filesystem::path(PROJECT_FOLDER "/data") / name);
 }
 
 TEST(WaveFileTest, TheShippedSoundsCanBePlayed) {
@@ -54,4 +54,4 @@ TEST(WaveFileTest, NoDamageToAHeaderIsTakenForASoundThatCanNotBePlayed) {
 }
 
 }  // namespace
-}  // namespace quintara::desktop
+}  // namespace quintara

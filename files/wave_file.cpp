@@ -1,9 +1,9 @@
-#include "desktop/wave_file.h"
+#include "files/wave_file.h"
 
 #include <cstddef>
 #include <cstdint>
 
-namespace quintara::desktop {
+namespace quintara {
 namespace {
 
 // A number of so many bytes, the lowest first.
@@ -49,4 +49,4 @@ std::optional<Wave> ReadWave(std::string_view file) {
   return wave;
 }
 
-}  // namespace quintara::desktop
+}  // namespace quintara

@@ -1,12 +1,12 @@
 // The reader of wave files: what it takes can be played.
 
-#include "desktop/wave_file.h"
+#include "files/wave_file.h"
 #include "fuzz/bytes.h"
 #include "fuzz/require.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using quintara::fuzz::Require;
-  const auto wave = quintara::desktop::ReadWave(quintara::fuzz::AsText(data, size));
+  const auto wave = quintara::ReadWave(quintara::fuzz::AsText(data, size));
   if (!wave) return 0;
   Require(wave->channels == 1 || wave->channels == 2, "one channel or two");
   Require(wave->bitsPerSample == 8 || wave->bitsPerSample == 16, "samples of 8 bits or 16");
