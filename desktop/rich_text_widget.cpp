@@ -7,8 +7,6 @@
 #include <QtWidgets/QScrollBar>
 
 #include <algorithm>
-#include <functional>
-#include <string>
 #include <utility>
 
 #include "desktop/appearance.h"
@@ -37,8 +35,7 @@ void RichTextWidget::ShowLooks() {
 }
 
 void RichTextWidget::ShowDocument() {
-  const std::size_t hash = std::hash<std::string>()(box_.TextRTF);
-  const bool another = std::exchange(shown_, hash) != hash;
+  const bool another = std::exchange(shown_, box_.documentChanges()) != box_.documentChanges();
   const bool zoomed = std::exchange(shownAt_, zoom()) != zoom();
   if (!another && !zoomed) return;
   constexpr int margin = 6;

@@ -2,7 +2,7 @@
 
 #include <QtWidgets/QTextEdit>
 
-#include <cstddef>
+#include <optional>
 
 #include "desktop/control.h"
 #include "scene/text_controls.h"
@@ -26,7 +26,7 @@ class RichTextWidget final : public QTextEdit, public Control {
   int PositionOf(int characters) const;
 
   RichTextBox& box_;
-  std::size_t shown_ = 0;  // a hash of the document on show
+  std::optional<ChangeCount> shown_;  // the count of the document on show
   Zoom shownAt_;
 };
 

@@ -93,7 +93,7 @@ void Surface::FollowPainted() {
     childrenSeen_ = container_.childrenChanges();
     painted_.clear();
     for (const Object* object : container_.children()) {
-      if (IsGraphical(object->kind())) painted_.push_back(StateOf(*object));
+      if (object->IsGraphical()) painted_.push_back(StateOf(*object));
     }
     return update();
   }
@@ -123,7 +123,7 @@ void Surface::paintEvent(QPaintEvent* event) {
   layer_.Paint(painter);
   painter.scale(zoom_.factor(), zoom_.factor());
   for (const Object* object : BackToFront(container_)) {
-    if (!IsGraphical(object->kind()) || !object->IsVisible()) continue;
+    if (!object->IsGraphical() || !object->IsVisible()) continue;
     if (event->region().intersects(zoom_.Around(PaintedArea(*object, session_.pictures()))))
       PaintObject(painter, *object, session_.pictures());
   }

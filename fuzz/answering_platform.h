@@ -14,7 +14,7 @@ class AnsweringPlatform : public QuietPlatform {
   explicit AnsweringPlatform(FileSystem& disk) : disk_(disk) {}
 
   std::int32_t boxAnswer = 1;
-  std::size_t menuAnswer = 0;  // which item of a menu is chosen; beyond the last one it is dismissed
+  std::size_t menuAnswer = 0;  // which item of a menu is chosen; dismissed where none can be
   std::string clipboard;
 
   std::string ProgramFolder() override { return programFolder; }
@@ -23,7 +23,8 @@ class AnsweringPlatform : public QuietPlatform {
     return boxAnswer;
   }
   Menu* RunPopupMenu(Form&, Menu& menu, double, double) override {
-    return menuAnswer < menu.items().size() ? menu.items()[menuAnswer] : nullptr;
+    Menu* item = menuAnswer < menu.items().size() ? menu.items()[menuAnswer] : nullptr;
+    return item != nullptr && item->CanBeChosen() ? item : nullptr;
   }
   void PutOnClipboard(const std::string& text) override { clipboard = text; }
 

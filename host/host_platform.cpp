@@ -23,8 +23,7 @@ std::int32_t DefaultAnswer(std::int32_t style) {
 
 Menu* ItemToChoose(const Menu& menu, const std::string& name) {
   for (Menu* item : menu.items()) {
-    const bool canBeChosen = item->IsVisible() && item->IsEnabled() && !item->IsSeparator();
-    if (canBeChosen && FullName(*item) == name) return item;
+    if (item->CanBeChosen() && FullName(*item) == name) return item;
   }
   return nullptr;
 }

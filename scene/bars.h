@@ -20,27 +20,22 @@ struct ScrollBarLooks {
 };
 
 class ScrollBar : public Box {
- private:
-  void WriteValue(std::int16_t value);
-
  public:
   // Writing another value raises Change before the next statement runs. A value outside the range becomes the
   // nearest one inside.
-  ActiveProperty<std::int16_t, ScrollBar, &ScrollBar::WriteValue> Value;
+  ActiveProperty<std::int16_t, ScrollBar> Value;
   Property<bool> Enabled;
   const std::int16_t Min, Max, SmallChange, LargeChange;
   Event<> Change;
 
   bool IsEnabled() const override { return Enabled; }
-  void Restore() override;
 
  protected:
   ScrollBar(Kind kind, Container& container, const ObjectName& name, const Rectangle& place,
             const ScrollBarLooks& looks);
 
  private:
-  Rectangle place_;
-  ScrollBarLooks looks_;
+  void WriteValue(std::int16_t value);
 };
 
 class HScrollBar : public ScrollBar {
@@ -67,23 +62,20 @@ struct SliderLooks {
 };
 
 class Slider : public Box {
- private:
-  void WriteValue(std::int32_t value);
-
  public:
   Slider(Container& container, const ObjectName& name, const Rectangle& place, const SliderLooks& looks);
 
   // Writing it raises nothing: Scroll comes only from the user. A value outside the range becomes the nearest
   // inside.
-  ActiveProperty<std::int32_t, Slider, &Slider::WriteValue> Value;
+  ActiveProperty<std::int32_t, Slider> Value;
   const std::int32_t Min, Max, SmallChange, LargeChange;
   Event<> Scroll;
 
   const SliderLooks& looks() const { return looks_; }
-  void Restore() override;
 
  private:
-  Rectangle place_;
+  void WriteValue(std::int32_t value);
+
   SliderLooks looks_;
 };
 

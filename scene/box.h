@@ -13,14 +13,14 @@ class Box : public Object {
   Property<bool> Visible;
 
   bool IsVisible() const override { return Visible; }
-  void ConvertPlace(const Scale& from, const Scale& to) override;
+  bool TakesMouse() const override { return IsEnabled(); }
+  void ConvertPlace(const Scale& next) override;
 
   // The rectangle in twips on the container's surface.
-  Rectangle Surface() const;
+  Rectangle Surface() const { return {Left.Twips(), Top.Twips(), Width.Twips(), Height.Twips()}; }
 
  protected:
-  Box(Kind kind, Container& container, const ObjectName& name, const Rectangle& place, bool visible);
-  void RestoreBox(const Rectangle& place, bool visible);
+  Box(Kind kind, Container& container, const ObjectName& name, const Rectangle& place, bool visible = true);
 };
 
 }  // namespace quintara

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "scene/box.h"
@@ -21,21 +22,21 @@ struct ButtonLooks {
 // What both kinds of push button have.
 class Button : public Box {
  public:
-  TextProperty Caption;
+  Property<std::string> Caption;
   Property<bool> Enabled;
   Event<> Click;
   Event<> MouseMove;
 
   const ButtonLooks& looks() const { return looks_; }
   bool IsEnabled() const override { return Enabled; }
-  void Restore() override;
+  const Event<>* ClickEvent() const override { return &Click; }
+  const Event<>* MouseMoveEvent() const override { return &MouseMove; }
 
  protected:
   Button(Kind kind, Container& container, const ObjectName& name, const Rectangle& place,
          const ButtonLooks& looks);
 
  private:
-  Rectangle place_;
   ButtonLooks looks_;
 };
 
@@ -64,13 +65,11 @@ class SSPanel : public Box {
  public:
   SSPanel(Container& container, const ObjectName& name, const Rectangle& place, const PanelLooks& looks);
 
-  TextProperty Caption;
+  Property<std::string> Caption;
 
   const PanelLooks& looks() const { return looks_; }
-  void Restore() override;
 
  private:
-  Rectangle place_;
   PanelLooks looks_;
 };
 

@@ -4,25 +4,23 @@
 
 namespace quintara {
 
-Container::Container(Object& self, ChangeCount& changes, const Looks& looks)
-    : DrawWidth(changes, looks.drawWidth),
-      BackColor(changes, looks.backColor),
-      ForeColor(changes, looks.foreColor),
+Container::Container(Object& self, Properties& properties, const Looks& looks)
+    : DrawWidth(properties, looks.drawWidth),
+      BackColor(properties, looks.backColor),
+      ForeColor(properties, looks.foreColor),
       self_(self),
-      scale_(looks.scale) {}
+      startScale_(looks.scale),
+      scale_(startScale_) {}
 
-void Container::RestoreSurface(const Looks& looks) {
+void Container::RestoreSurface() {
   Cls();
-  DrawWidth = looks.drawWidth;
-  BackColor = looks.backColor;
-  ForeColor = looks.foreColor;
   // The children are given their start places in this scale next, so they need no conversion here.
-  scale_ = looks.scale;
+  scale_ = startScale_;
 }
 
 void Container::Rescale(const Scale& scale) {
   if (scale_.unitAcross != scale.unitAcross || scale_.unitDown != scale.unitDown) {
-    for (Object* child : children_) child->ConvertPlace(scale_, scale);
+    for (Object* child : children_) child->ConvertPlace(scale);
   }
   scale_ = scale;
 }

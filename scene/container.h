@@ -30,7 +30,7 @@ class Container {
   Object& object() const { return self_; }
   Form& form() const { return self_.form(); }
 
-  // Front to back within the graphical objects and within the others; see IsGraphical.
+  // Front to back within the graphical objects and within the others; see Object::IsGraphical.
   const std::vector<Object*>& children() const { return children_; }
   // Grows whenever a child joins or leaves.
   ChangeCount childrenChanges() const { return childrenChanges_; }
@@ -68,9 +68,10 @@ class Container {
     Scale scale;
   };
 
-  Container(Object& self, ChangeCount& changes, const Looks& looks);
+  Container(Object& self, Properties& properties, const Looks& looks);
   ~Container() = default;
-  void RestoreSurface(const Looks& looks);
+  // Gives the surface its start scale again and wipes it. Its children have to be restored next.
+  void RestoreSurface();
 
  private:
   friend class Object;
@@ -82,6 +83,7 @@ class Container {
   Object& self_;
   std::vector<Object*> children_;
   std::vector<Dot> dots_;
+  const Scale startScale_;
   Scale scale_;
   ChangeCount childrenChanges_ = 0;
   ChangeCount wipes_ = 0;

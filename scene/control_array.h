@@ -2,7 +2,9 @@
 
 #include <memory>
 #include <stdexcept>
+#include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "scene/object.h"
@@ -63,7 +65,9 @@ class ControlArray : public ControlArrayBase {
   void Load(std::int16_t index) {
     if (Has(index) || index < 0) return;
     Control& pattern = (*this)(0);
-    Adopt(std::make_unique<Control>(*pattern.container(), At(index), pattern));
+    auto element = std::make_unique<Control>(*pattern.container(), At(index), pattern);
+    element->Visible = false;
+    Adopt(std::move(element));
   }
 };
 

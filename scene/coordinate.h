@@ -14,13 +14,13 @@ enum class Axis { Across, Down };
 // A change of scale moves nothing, it only changes the numbers. So that this stays true over any number of
 // changes, a coordinate that was converted remembers the exact place it was converted from, until it is
 // written anew.
-class Coordinate {
+class Coordinate final : public StoredProperty {
  public:
-  Coordinate(ChangeCount& changes, Axis axis, double twips, const Scale& scale)
-      : changes_(&changes), axis_(axis) {
-    Place(twips, scale);
+  // The scale is the container's own, in which the coordinate counts for as long as it lives.
+  Coordinate(Properties& all, Axis axis, double startTwips, const Scale& scale)
+      : StoredProperty(all), scale_(scale), axis_(axis), startTwips_(startTwips) {
+    Place(startTwips_, scale_);
   }
-  Coordinate(const Coordinate&) = delete;
 
   operator double() const { return value_; }
 
@@ -28,29 +28,31 @@ class Coordinate {
     const Single rounded = value;
     if (value_ == rounded) return *this;
     value_ = rounded;
-    ++*changes_;
+    CountChange();
     return *this;
   }
   Coordinate& operator=(const Coordinate& other) { return *this = static_cast<double>(other.value_); }
 
-  // The place in twips, in the scale that its container has now.
-  double Twips(const Scale& scale) const { return value_ == converted_ ? twips_ : value_ * Unit(scale); }
-
-  // Gives the place in twips, whatever the scale: how start values and changes of scale set it.
-  void Place(double twips, const Scale& scale) {
-    *this = twips / Unit(scale);
-    converted_ = value_;
-    twips_ = twips;
-  }
+  double Twips() const { return value_ == converted_ ? placedTwips_ : value_ * Unit(scale_); }
+  // Counts the same place in the scale that the container takes next.
+  void Convert(const Scale& next) { Place(Twips(), next); }
 
  private:
   double Unit(const Scale& scale) const { return axis_ == Axis::Across ? scale.unitAcross : scale.unitDown; }
 
-  ChangeCount* changes_;
-  double twips_ = 0;
+  void Place(double twips, const Scale& scale) {
+    *this = twips / Unit(scale);
+    converted_ = value_;
+    placedTwips_ = twips;
+  }
+  void Restore() override { Place(startTwips_, scale_); }
+
   Single value_;
-  Single converted_;  // the value that stands for twips_
-  Axis axis_;
+  Single converted_;  // the value that stands for placedTwips_
+  double placedTwips_ = 0;
+  const Scale& scale_;
+  const Axis axis_;
+  const double startTwips_;
 };
 
 }  // namespace quintara

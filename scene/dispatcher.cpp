@@ -51,6 +51,12 @@ void Dispatcher::BeginWait(Timer& timer) {
   timer.waitBegan_ = ++waits_;
 }
 
+void Dispatcher::BeginWaits(const Form& form) {
+  for (Timer* timer : timers_) {
+    if (&timer->form() == &form) BeginWait(*timer);
+  }
+}
+
 void Dispatcher::DropQueued(const Form& form) {
   std::erase_if(queue_, [&](const Queued& queued) { return queued.form == &form; });
 }

@@ -53,6 +53,8 @@ class Dispatcher {
   void Add(Timer& timer) { timers_.push_back(&timer); }
   void Remove(Timer& timer);
   void BeginWait(Timer& timer);
+  // The form has been loaded: each of its timers begins its first wait.
+  void BeginWaits(const Form& form);
   void DropQueued(const Form& form);
   Timer* Earliest() const;
   void Tick(Timer& timer);

@@ -6,49 +6,21 @@
 #include "scene/control_array.h"
 #include "scene/menu.h"
 #include "scene/scene.h"
-#include "scene/timer.h"
 
 namespace quintara {
 
-Form::ScaleExtent::operator double() const {
-  const Scale& scale = form_.scale();
-  const bool across = axis_ == Axis::Across;
-  return Single(across ? form_.InnerWidth() / scale.unitAcross : form_.InnerHeight() / scale.unitDown);
-}
-
-Form::ScaleExtent& Form::ScaleExtent::operator=(double units) {
-  const Single count = units;
-  const double inner = axis_ == Axis::Across ? form_.InnerWidth() : form_.InnerHeight();
-  // A form squeezed to nothing has no unit that could be counted.
-  if (!(count > 0) || !std::isfinite(count) || !(inner > 0)) return *this;
-  Scale scale = form_.scale();
-  scale.mode = Scale::user;
-  (axis_ == Axis::Across ? scale.unitAcross : scale.unitDown) = inner / count;
-  form_.Rescale(scale);
-  return *this;
-}
-
-Form::ScaleModeNumber& Form::ScaleModeNumber::operator=(std::int16_t mode) {
-  Scale scale = form_.scale();
-  if (mode == Scale::twips) scale = Scale::InTwips();
-  if (mode == Scale::pixels) scale = Scale::InPixels();
-  if (mode == Scale::user) scale.mode = Scale::user;
-  form_.Rescale(scale);
-  return *this;
-}
-
 Form::Form(Scene& scene, std::string_view name, const FormLooks& looks)
     : Object(name, *this),
-      Container(static_cast<Object&>(*this), changeCount(),
+      Container(static_cast<Object&>(*this), properties(),
                 {looks.backColor, looks.foreColor, looks.drawWidth, looks.scale}),
-      Caption(changeCount(), looks.caption),
-      Left(changeCount(), 0.0),
-      Top(changeCount(), 0.0),
-      Width(changeCount(), looks.clientWidth + frameWidth),
-      Height(changeCount(), looks.clientHeight + frameHeight),
-      ScaleMode(*this),
-      ScaleWidth(*this, Axis::Across),
-      ScaleHeight(*this, Axis::Down),
+      Caption(properties(), looks.caption),
+      Left(properties(), 0.0),
+      Top(properties(), 0.0),
+      Width(properties(), looks.clientWidth + frameWidth),
+      Height(properties(), looks.clientHeight + frameHeight),
+      ScaleMode(*this, &Form::ReadScaleMode, &Form::WriteScaleMode),
+      ScaleWidth(*this, &Form::ReadExtent<Axis::Across>, &Form::WriteExtent<Axis::Across>),
+      ScaleHeight(*this, &Form::ReadExtent<Axis::Down>, &Form::WriteExtent<Axis::Down>),
       scene_(scene),
       looks_(looks) {
   scene_.Join(*this);
@@ -65,13 +37,34 @@ double Form::InnerHeight() const {
   return std::max(Height.Get() - frameHeight, 0.0);
 }
 
+void Form::WriteScaleMode(std::int16_t mode) {
+  Scale next = scale();
+  if (mode == Scale::twips) next = Scale::InTwips();
+  if (mode == Scale::pixels) next = Scale::InPixels();
+  if (mode == Scale::user) next.mode = Scale::user;
+  Rescale(next);
+}
+
+template <Axis axis>
+double Form::ReadExtent() const {
+  return Single(axis == Axis::Across ? InnerWidth() / scale().unitAcross : InnerHeight() / scale().unitDown);
+}
+
+template <Axis axis>
+void Form::WriteExtent(double units) {
+  const Single count = units;
+  const double inner = axis == Axis::Across ? InnerWidth() : InnerHeight();
+  // A form squeezed to nothing has no unit that could be counted.
+  if (!(count > 0) || !std::isfinite(count) || !(inner > 0)) return;
+  Scale next = scale();
+  next.mode = Scale::user;
+  (axis == Axis::Across ? next.unitAcross : next.unitDown) = inner / count;
+  Rescale(next);
+}
+
 void Form::Restore() {
-  Caption = looks_.caption;
-  Left = 0.0;
-  Top = 0.0;
-  Width = looks_.clientWidth + frameWidth;
-  Height = looks_.clientHeight + frameHeight;
-  RestoreSurface({looks_.backColor, looks_.foreColor, looks_.drawWidth, looks_.scale});
+  Object::Restore();
+  RestoreSurface();
   // A container stands before its children in the table, so its scale is back before their places are.
   for (Object* object : objects_) object->Restore();
 }
@@ -80,21 +73,15 @@ void Form::Touch() {
   if (loaded_ || scene_.ended()) return;
   loaded_ = true;
   scene_.NoteLoaded(*this);
-  BeginTimers();
+  scene_.dispatcher().BeginWaits(*this);
   Load.Raise();
-}
-
-void Form::BeginTimers() {
-  for (Object* object : objects_) {
-    if (object->kind() == Kind::Timer) static_cast<Timer*>(object)->BeginWait();
-  }
 }
 
 void Form::Show() {
   Touch();
   if (!loaded_) return;
   shown_ = true;
-  ++changeCount();
+  properties().CountChange();
   scene_.platform().FormShown(*this);
 }
 
@@ -113,11 +100,10 @@ void Form::Unload() {
   scene_.NoteUnloaded(*this);
 }
 
-bool Form::PopupMenu(Menu& menu, double x, double y) {
-  Menu* chosen = scene_.platform().RunPopupMenu(*this, menu, x * scale().unitAcross, y * scale().unitDown);
-  if (chosen == nullptr || chosen->IsSeparator() || !chosen->IsEnabled()) return false;
-  chosen->Click.Raise();
-  return true;
+void Form::PopupMenu(Menu& menu, double x, double y) {
+  const Menu* chosen =
+      scene_.platform().RunPopupMenu(*this, menu, x * scale().unitAcross, y * scale().unitDown);
+  if (chosen != nullptr) chosen->Click.Raise();
 }
 
 Object* Form::Find(std::string_view name, std::int16_t index) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -39,45 +40,23 @@ struct FormLooks {
 // elements of arrays; nothing else is destroyed, so it may happen, and the form be touched again, inside its
 // own handlers. The form's own variables are no part of that and keep their values.
 class Form : public Object, public Container {
- private:
-  // A number of the form's scale: how many units the inner width or height counts.
-  class ScaleExtent {
-   public:
-    ScaleExtent(Form& form, Axis axis) : form_(form), axis_(axis) {}
-    ScaleExtent(const ScaleExtent&) = delete;
-    operator double() const;
-    ScaleExtent& operator=(double units);
-
-   private:
-    Form& form_;
-    Axis axis_;
-  };
-  class ScaleModeNumber {
-   public:
-    explicit ScaleModeNumber(Form& form) : form_(form) {}
-    ScaleModeNumber(const ScaleModeNumber&) = delete;
-    operator std::int16_t() const { return form_.scale().mode; }
-    ScaleModeNumber& operator=(std::int16_t mode);
-
-   private:
-    Form& form_;
-  };
-
  public:
-  TextProperty Caption;
+  Property<std::string> Caption;
   // The outer frame in screen twips.
   Property<Single> Left, Top, Width, Height;
   // 1 counts in twips, 3 in pixels; 0 leaves the units as they are. Another number changes nothing.
-  ScaleModeNumber ScaleMode;
-  // Writing one of them counts that axis in units of its own and leaves the other as it is. Only a number
-  // above 0 and below infinity is taken.
-  ScaleExtent ScaleWidth, ScaleHeight;
+  ComputedProperty<std::int16_t, Form> ScaleMode;
+  // How many units of the scale the inner width and height count. Writing one of them counts that axis in
+  // units of its own and leaves the other as it is. Only a number above 0 and below infinity is taken.
+  ComputedProperty<double, Form> ScaleWidth, ScaleHeight;
   Event<> Load;
   Event<> QueryUnload;
 
   Scene& scene() const { return scene_; }
   bool loaded() const { return loaded_; }
   bool IsVisible() const override { return shown_; }
+  bool TakesMouse() const override { return true; }
+  Container* AsContainer() override { return this; }
 
   // Loads the form if it isn't loaded. Every use of the form by others goes through here; see FormHandle.
   void Touch();
@@ -86,9 +65,8 @@ class Form : public Object, public Container {
   // Raises QueryUnload, hides the form and restores it. Does nothing on a form that isn't loaded, or whose
   // QueryUnload handler is running.
   void Unload();
-  // Opens a menu at a place in the form's scale and waits; a chosen item raises its Click. False: it was
-  // dismissed.
-  bool PopupMenu(Menu& menu, double x, double y);
+  // Opens a menu at a place in the form's scale and waits; a chosen item raises its Click.
+  void PopupMenu(Menu& menu, double x, double y);
 
   // Every object of the form in the order of its table, loaded array elements behind element 0.
   const std::vector<Object*>& objects() const { return objects_; }
@@ -120,7 +98,12 @@ class Form : public Object, public Container {
  private:
   friend class Object;
   friend class ControlArrayBase;
-  void BeginTimers();
+  std::int16_t ReadScaleMode() const { return scale().mode; }
+  void WriteScaleMode(std::int16_t mode);
+  template <Axis axis>
+  double ReadExtent() const;
+  template <Axis axis>
+  void WriteExtent(double units);
 
   Scene& scene_;
   FormLooks looks_;

@@ -3,68 +3,38 @@
 #include "scene/container.h"
 
 namespace quintara {
-namespace {
-
-LabelLooks HiddenCopy(const Label& pattern) {
-  LabelLooks looks = pattern.looks();
-  looks.visible = false;
-  looks.backColor = pattern.BackColor;
-  looks.foreColor = pattern.ForeColor;
-  return looks;
-}
-
-LineLooks HiddenCopy(const Line& pattern) {
-  LineLooks looks = pattern.looks();
-  looks.visible = false;
-  looks.borderColor = pattern.BorderColor;
-  return looks;
-}
-
-ShapeLooks HiddenCopy(const Shape& pattern) {
-  ShapeLooks looks = pattern.looks();
-  looks.visible = false;
-  looks.borderColor = pattern.BorderColor;
-  return looks;
-}
-
-}  // namespace
 
 Label::Label(Container& container, const ObjectName& name, const Rectangle& place, const LabelLooks& looks)
     : Box(Kind::Label, container, name, place, looks.visible),
-      Caption(changeCount(), looks.caption),
-      BackColor(changeCount(), looks.backColor),
-      ForeColor(changeCount(), looks.foreColor),
-      place_(place),
+      Caption(properties(), looks.caption),
+      BackColor(properties(), looks.backColor),
+      ForeColor(properties(), looks.foreColor),
       looks_(looks) {}
 
 Label::Label(Container& container, const ObjectName& name, const Label& pattern)
-    : Label(container, name, pattern.Surface(), HiddenCopy(pattern)) {
+    : Label(container, name, pattern.Surface(), pattern.looks()) {
   Caption = pattern.Caption;
-}
-
-void Label::Restore() {
-  RestoreBox(place_, looks_.visible);
-  Caption = looks_.caption;
-  BackColor = looks_.backColor;
-  ForeColor = looks_.foreColor;
+  BackColor = pattern.BackColor;
+  ForeColor = pattern.ForeColor;
 }
 
 Line::Line(Container& container, const ObjectName& name, const Segment& ends, const LineLooks& looks)
     : Object(Kind::Line, container, name),
-      X1(changeCount(), Axis::Across, ends.x1, container.scale()),
-      Y1(changeCount(), Axis::Down, ends.y1, container.scale()),
-      X2(changeCount(), Axis::Across, ends.x2, container.scale()),
-      Y2(changeCount(), Axis::Down, ends.y2, container.scale()),
-      Visible(changeCount(), looks.visible),
-      BorderColor(changeCount(), looks.borderColor),
-      ends_(ends),
+      X1(properties(), Axis::Across, ends.x1, container.scale()),
+      Y1(properties(), Axis::Down, ends.y1, container.scale()),
+      X2(properties(), Axis::Across, ends.x2, container.scale()),
+      Y2(properties(), Axis::Down, ends.y2, container.scale()),
+      Visible(properties(), looks.visible),
+      BorderColor(properties(), looks.borderColor),
       looks_(looks) {}
 
 Line::Line(Container& container, const ObjectName& name, const Line& pattern)
-    : Line(container, name, pattern.Surface(), HiddenCopy(pattern)) {}
+    : Line(container, name, pattern.Surface(), pattern.looks()) {
+  BorderColor = pattern.BorderColor;
+}
 
-void Line::ConvertPlace(const Scale& from, const Scale& to) {
-  for (Coordinate* coordinate : {&X1, &Y1, &X2, &Y2}) coordinate->Place(coordinate->Twips(from), to);
+void Line::ConvertPlace(const Scale& next) {
+  for (Coordinate* coordinate : {&X1, &Y1, &X2, &Y2}) coordinate->Convert(next);
 }
 
 void Line::Lay(const Segment& ends) {
@@ -74,44 +44,19 @@ void Line::Lay(const Segment& ends) {
   Y2 = ends.y2;
 }
 
-Segment Line::Surface() const {
-  const Scale& scale = container()->scale();
-  return {X1.Twips(scale), Y1.Twips(scale), X2.Twips(scale), Y2.Twips(scale)};
-}
-
-void Line::Restore() {
-  const Scale& scale = container()->scale();
-  X1.Place(ends_.x1, scale);
-  Y1.Place(ends_.y1, scale);
-  X2.Place(ends_.x2, scale);
-  Y2.Place(ends_.y2, scale);
-  Visible = looks_.visible;
-  BorderColor = looks_.borderColor;
-}
-
 Shape::Shape(Container& container, const ObjectName& name, const Rectangle& place, const ShapeLooks& looks)
     : Box(Kind::Shape, container, name, place, looks.visible),
-      BorderColor(changeCount(), looks.borderColor),
-      place_(place),
+      BorderColor(properties(), looks.borderColor),
       looks_(looks) {}
 
 Shape::Shape(Container& container, const ObjectName& name, const Shape& pattern)
-    : Shape(container, name, pattern.Surface(), HiddenCopy(pattern)) {}
-
-void Shape::Restore() {
-  RestoreBox(place_, looks_.visible);
-  BorderColor = looks_.borderColor;
+    : Shape(container, name, pattern.Surface(), pattern.looks()) {
+  BorderColor = pattern.BorderColor;
 }
 
 Image::Image(Container& container, const ObjectName& name, const Rectangle& place, const ImageLooks& looks)
     : Box(Kind::Image, container, name, place, looks.visible),
-      Enabled(changeCount(), looks.enabled),
-      place_(place),
+      Enabled(properties(), looks.enabled),
       looks_(looks) {}
-
-void Image::Restore() {
-  RestoreBox(place_, looks_.visible);
-  Enabled = looks_.enabled;
-}
 
 }  // namespace quintara

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "scene/box.h"
@@ -26,18 +27,17 @@ struct LabelLooks {
 class Label : public Box {
  public:
   Label(Container& container, const ObjectName& name, const Rectangle& place, const LabelLooks& looks = {});
-  // A copy of a pattern, hidden.
+  // A copy of a pattern as it looks now.
   Label(Container& container, const ObjectName& name, const Label& pattern);
 
-  TextProperty Caption;
+  Property<std::string> Caption;
   Property<Colour> BackColor;
   Property<Colour> ForeColor;
 
   const LabelLooks& looks() const { return looks_; }
-  void Restore() override;
+  bool IsGraphical() const override { return true; }
 
  private:
-  Rectangle place_;
   LabelLooks looks_;
 };
 
@@ -52,7 +52,7 @@ struct LineLooks {
 class Line : public Object {
  public:
   Line(Container& container, const ObjectName& name, const Segment& ends, const LineLooks& looks = {});
-  // A copy of a pattern, hidden.
+  // A copy of a pattern as it looks now.
   Line(Container& container, const ObjectName& name, const Line& pattern);
 
   Coordinate X1, Y1, X2, Y2;
@@ -61,15 +61,14 @@ class Line : public Object {
 
   const LineLooks& looks() const { return looks_; }
   bool IsVisible() const override { return Visible; }
-  void ConvertPlace(const Scale& from, const Scale& to) override;
+  bool IsGraphical() const override { return true; }
+  void ConvertPlace(const Scale& next) override;
   // Writes both ends, in the scale of the container.
   void Lay(const Segment& ends);
   // The ends in twips on the container's surface.
-  Segment Surface() const;
-  void Restore() override;
+  Segment Surface() const { return {X1.Twips(), Y1.Twips(), X2.Twips(), Y2.Twips()}; }
 
  private:
-  Segment ends_;
   LineLooks looks_;
 };
 
@@ -90,16 +89,16 @@ struct ShapeLooks {
 class Shape : public Box {
  public:
   Shape(Container& container, const ObjectName& name, const Rectangle& place, const ShapeLooks& looks = {});
-  // A copy of a pattern, hidden.
+  // A copy of a pattern as it looks now.
   Shape(Container& container, const ObjectName& name, const Shape& pattern);
 
   Property<Colour> BorderColor;
 
   const ShapeLooks& looks() const { return looks_; }
-  void Restore() override;
+  bool IsGraphical() const override { return true; }
+  bool TakesMouse() const override { return false; }
 
  private:
-  Rectangle place_;
   ShapeLooks looks_;
 };
 
@@ -121,10 +120,11 @@ class Image : public Box {
 
   const ImageLooks& looks() const { return looks_; }
   bool IsEnabled() const override { return Enabled; }
-  void Restore() override;
+  bool IsGraphical() const override { return true; }
+  const Event<>* ClickEvent() const override { return &Click; }
+  const Event<>* MouseMoveEvent() const override { return &MouseMove; }
 
  private:
-  Rectangle place_;
   ImageLooks looks_;
 };
 

@@ -29,27 +29,6 @@ InputResult Use(Object& object, Action action) {
   return InputResult::Done;
 }
 
-bool TakesMouse(const Object& object) {
-  switch (object.kind()) {
-    case Kind::Line:
-    case Kind::Shape:
-    case Kind::Timer:
-    case Kind::Menu: return false;
-    default: return object.IsEnabled();
-  }
-}
-
-void RaiseClick(Object& object) {
-  if (auto* button = dynamic_cast<Button*>(&object)) button->Click.Raise();
-  if (auto* image = dynamic_cast<Image*>(&object)) image->Click.Raise();
-}
-
-void RaiseMouseMove(Object& object) {
-  if (auto* button = dynamic_cast<Button*>(&object)) button->MouseMove.Raise();
-  if (auto* image = dynamic_cast<Image*>(&object)) image->MouseMove.Raise();
-  if (auto* picture = dynamic_cast<PictureBox*>(&object)) picture->MouseMove.Raise();
-}
-
 bool Contains(const Rectangle& area, double left, double top) {
   return left >= area.left && left < area.left + area.width && top >= area.top &&
          top < area.top + area.height;
@@ -60,8 +39,8 @@ bool Contains(const Rectangle& area, double left, double top) {
 Box* ChildAt(const Container& container, double left, double top) {
   for (const bool graphical : {false, true}) {
     for (Object* child : container.children()) {
-      if (IsGraphical(child->kind()) != graphical || !child->IsVisible() || !TakesMouse(*child)) continue;
-      auto* box = static_cast<Box*>(child);
+      if (child->IsGraphical() != graphical || !child->IsVisible() || !child->TakesMouse()) continue;
+      auto* box = static_cast<Box*>(child);  // as all children are that take the mouse
       if (Contains(box->Surface(), left, top)) return box;
     }
   }
@@ -102,7 +81,7 @@ std::string WithCharacter(std::string text, std::int32_t code) {
 Object* MouseReceiver(Object& object) {
   if (!IsShown(object)) return nullptr;
   Object* at = &object;
-  while (at->container() != nullptr && !TakesMouse(*at)) at = &at->container()->object();
+  while (at->container() != nullptr && !at->TakesMouse()) at = &at->container()->object();
   return at;
 }
 
@@ -115,19 +94,23 @@ Object* ObjectAt(Form& form, double left, double top) {
     receiver = child;
     left -= child->Surface().left;
     top -= child->Surface().top;
-    container = dynamic_cast<Container*>(child);
+    container = child->AsContainer();
   }
   return receiver;
 }
 
 InputResult UserClicks(Object& object) {
-  return Use(object, [&object] { RaiseClick(object); });
+  return Use(object, [&object] {
+    if (const Event<>* click = object.ClickEvent()) click->Raise();
+  });
 }
 
 InputResult UserMovesOnto(Object& object) {
   if (!IsShown(object)) return InputResult::NoTarget;
   DispatcherOf(object).Run(object.form(), [&object] {
-    if (Object* receiver = MouseReceiver(object)) RaiseMouseMove(*receiver);
+    const Object* receiver = MouseReceiver(object);
+    const Event<>* move = receiver != nullptr ? receiver->MouseMoveEvent() : nullptr;
+    if (move != nullptr) move->Raise();
   });
   return InputResult::Done;
 }

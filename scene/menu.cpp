@@ -6,18 +6,13 @@ namespace quintara {
 
 Menu::Menu(quintara::Container& container, const ObjectName& name, const MenuLooks& looks)
     : Object(Kind::Menu, container, name),
-      Caption(changeCount(), looks.caption),
-      Visible(changeCount(), looks.visible),
+      Caption(properties(), looks.caption),
+      Visible(properties(), looks.visible),
       looks_(looks) {}
 
 Menu::Menu(Menu& parent, const ObjectName& name, const MenuLooks& looks)
     : Menu(*parent.container(), name, looks) {
   parent.items_.push_back(this);
-}
-
-void Menu::Restore() {
-  Caption = looks_.caption;
-  Visible = looks_.visible;
 }
 
 }  // namespace quintara

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -22,8 +23,9 @@ class Menu : public Object {
   // An item, below those declared before it.
   Menu(Menu& parent, const ObjectName& name, const MenuLooks& looks);
 
-  TextProperty Caption;
+  Property<std::string> Caption;
   Property<bool> Visible;
+  // Raised where it is chosen; no pointer clicks it on its form, as it does a button.
   Event<> Click;
 
   // Top to bottom; empty for an item.
@@ -31,7 +33,9 @@ class Menu : public Object {
   bool IsSeparator() const { return Caption == "-"; }
   bool IsVisible() const override { return Visible; }
   bool IsEnabled() const override { return looks_.enabled; }
-  void Restore() override;
+  bool HasPlace() const override { return false; }
+  // Whether the user can choose it where its menu is open.
+  bool CanBeChosen() const { return IsVisible() && IsEnabled() && !IsSeparator(); }
 
  private:
   MenuLooks looks_;

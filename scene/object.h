@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "scene/event.h"
 #include "scene/property.h"
 #include "scene/scale.h"
 
@@ -13,6 +14,7 @@ class Container;
 class ControlArrayBase;
 class Form;
 
+// Which class an object is of; see Visit.
 enum class Kind {
   Form,
   PictureBox,
@@ -32,12 +34,6 @@ enum class Kind {
   RichTextBox,
   Menu,
 };
-
-// Graphical objects are painted on the surface of their container and never stand in front of an object that
-// has a surface of its own.
-constexpr bool IsGraphical(Kind kind) {
-  return kind == Kind::Label || kind == Kind::Line || kind == Kind::Shape || kind == Kind::Image;
-}
 
 // What a control is called: a name of its own, or an element of a control array.
 struct ObjectName {
@@ -68,17 +64,30 @@ class Object {
   Container* container() const { return container_; }
 
   // Grows whenever a property of the object changes.
-  ChangeCount changes() const { return changes_; }
+  ChangeCount changes() const { return properties_.changes(); }
 
   // Gives every property its start value again, as at the building of the form.
-  virtual void Restore() = 0;
+  virtual void Restore() { properties_.Restore(); }
 
-  // Counts the object's place in another scale of its container. It stays where it is.
-  virtual void ConvertPlace(const Scale& /*from*/, const Scale& /*to*/) {}
+  // Counts the object's place in the scale that its container takes next. It stays where it is.
+  virtual void ConvertPlace(const Scale& /*next*/) {}
 
   // Whether the object itself is switched to visible, whatever its containers are.
   virtual bool IsVisible() const { return true; }
   virtual bool IsEnabled() const { return true; }
+
+  // The object as what other objects may lie in; null where none may.
+  virtual Container* AsContainer() { return nullptr; }
+  // Whether the object is anywhere on its form; a timer is not.
+  virtual bool HasPlace() const { return true; }
+  // Graphical objects are painted on the surface of their container and never stand in front of an object
+  // that has a surface of its own.
+  virtual bool IsGraphical() const { return false; }
+  // Whether the mouse, where it is over the object, is its own and not that of what lies behind.
+  virtual bool TakesMouse() const { return false; }
+  // What a click of the user and a move of the pointer raise; null where the object has no such event.
+  virtual const Event<>* ClickEvent() const { return nullptr; }
+  virtual const Event<>* MouseMoveEvent() const { return nullptr; }
 
  protected:
   // A control: joins its container, behind those declared before it, and its array if it has one.
@@ -86,13 +95,13 @@ class Object {
   // A form.
   Object(std::string_view name, Form& self) : form_(&self), name_(name), kind_(Kind::Form) {}
 
-  ChangeCount& changeCount() { return changes_; }
+  Properties& properties() { return properties_; }
 
  private:
   Form* form_;
   Container* container_ = nullptr;
   std::string_view name_;
-  ChangeCount changes_ = 0;
+  Properties properties_;
   Kind kind_;
   std::int16_t index_ = notInArray;
 };

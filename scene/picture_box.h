@@ -36,13 +36,11 @@ class PictureBox : public Box, public Container {
   Property<quintara::Picture> Picture;
   Event<> MouseMove;
 
-  double InnerWidth() const override { return Width.Twips(container()->scale()); }
-  double InnerHeight() const override { return Height.Twips(container()->scale()); }
+  double InnerWidth() const override { return Width.Twips(); }
+  double InnerHeight() const override { return Height.Twips(); }
+  Container* AsContainer() override { return this; }
+  const Event<>* MouseMoveEvent() const override { return &MouseMove; }
   void Restore() override;
-
- private:
-  Rectangle place_;
-  PictureBoxLooks looks_;
 };
 
 }  // namespace quintara

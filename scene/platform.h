@@ -38,8 +38,8 @@ class Platform {
   virtual std::int32_t ShowMessageBox(const std::string& text, std::int32_t style,
                                       const std::string& title) = 0;
 
-  // Opens a menu at a place on the form's inner area, in twips, and returns the chosen item, or null when
-  // dismissed.
+  // Opens a menu at a place on the form's inner area, in twips, and returns the chosen item, one that can be
+  // chosen, or null when dismissed.
   virtual Menu* RunPopupMenu(Form& form, Menu& menu, double x, double y) = 0;
 
   virtual void PutOnClipboard(const std::string& text) = 0;

@@ -10,32 +10,24 @@ namespace quintara {
 
 TextBox::TextBox(Container& container, const ObjectName& name, const Rectangle& place,
                  const TextBoxLooks& looks)
-    : Box(Kind::TextBox, container, name, place, true),
-      Text(changeCount(), looks.text),
-      place_(place),
-      looks_(looks) {}
+    : Box(Kind::TextBox, container, name, place), Text(properties(), looks.text), looks_(looks) {}
 
 void TextBox::SetFocus() {
   form().MoveFocus(this);
 }
 
-void TextBox::Restore() {
-  RestoreBox(place_, true);
-  Text = looks_.text;
-}
-
 ListBox::ListBox(Container& container, const ObjectName& name, const Rectangle& place,
                  const ListBoxLooks& looks)
-    : Box(Kind::ListBox, container, name, place, true), place_(place), looks_(looks) {}
+    : Box(Kind::ListBox, container, name, place), looks_(looks) {}
 
 void ListBox::AddItem(std::string_view text) {
   items_.emplace_back(text);
-  ++changeCount();
+  properties().CountChange();
 }
 
 void ListBox::Clear() {
   items_.clear();
-  ++changeCount();
+  properties().CountChange();
 }
 
 std::int16_t ListBox::ListCount() const {
@@ -49,30 +41,30 @@ const std::string& ListBox::List(std::int32_t i) const {
 }
 
 void ListBox::Restore() {
-  RestoreBox(place_, true);
+  Object::Restore();
   Clear();
 }
 
 RichTextBox::RichTextBox(Container& container, const ObjectName& name, const Rectangle& place,
                          const RichTextBoxLooks& looks)
     : Box(Kind::RichTextBox, container, name, place, looks.visible),
-      TextRTF(*this, ""),
-      place_(place),
+      TextRTF(properties(), "", *this, &RichTextBox::WriteTextRTF),
       looks_(looks) {}
 
 void RichTextBox::WriteTextRTF(std::string rtf) {
   document_ = ReadRichText(rtf);
   plainText_ = document_.PlainText();
   selectionStart_ = selectionLength_ = 0;
-  TextRTF.Keep(std::move(rtf), changeCount());
-  ++changeCount();  // the same document again still takes the selection away
+  if (rtf != TextRTF.Get()) ++documentChanges_;
+  TextRTF.Keep(std::move(rtf));
+  properties().CountChange();  // the same document again still takes the selection away
 }
 
 void RichTextBox::Select(std::int32_t start, std::int32_t length) {
   const auto characters = static_cast<std::int32_t>(CharacterCount(plainText_));
   selectionStart_ = std::clamp(start, 0, characters);
   selectionLength_ = std::clamp(length, 0, characters - selectionStart_);
-  ++changeCount();
+  properties().CountChange();
   SelChange.Raise();
 }
 
@@ -82,8 +74,9 @@ std::string RichTextBox::SelText() const {
 }
 
 void RichTextBox::Restore() {
-  RestoreBox(place_, looks_.visible);
-  WriteTextRTF("");
+  // Written before it is restored, so that it is seen to be another document.
+  TextRTF = "";
+  Object::Restore();
 }
 
 }  // namespace quintara

@@ -25,7 +25,7 @@ class TextBox : public Box {
   TextBox(Container& container, const ObjectName& name, const Rectangle& place,
           const TextBoxLooks& looks = {});
 
-  TextProperty Text;
+  Property<std::string> Text;
   // Comes before the key has an effect, with the key's character code.
   Event<std::int16_t> KeyPress;
 
@@ -33,10 +33,8 @@ class TextBox : public Box {
   void SetFocus();
 
   const TextBoxLooks& looks() const { return looks_; }
-  void Restore() override;
 
  private:
-  Rectangle place_;
   TextBoxLooks looks_;
 };
 
@@ -65,7 +63,6 @@ class ListBox : public Box {
   void Restore() override;
 
  private:
-  Rectangle place_;
   ListBoxLooks looks_;
   std::vector<std::string> items_;
 };
@@ -77,15 +74,12 @@ struct RichTextBoxLooks {
 
 // Shows a document for reading and selecting.
 class RichTextBox : public Box {
- private:
-  void WriteTextRTF(std::string rtf);
-
  public:
   RichTextBox(Container& container, const ObjectName& name, const Rectangle& place,
               const RichTextBoxLooks& looks = {});
 
   // The whole document as rich text. Writing it takes the selection away.
-  ActiveProperty<std::string, RichTextBox, &RichTextBox::WriteTextRTF> TextRTF;
+  ActiveProperty<std::string, RichTextBox> TextRTF;
   Event<> SelChange;
 
   // Selects a stretch, counted in characters of the plain text and cut to it, and raises SelChange.
@@ -97,15 +91,19 @@ class RichTextBox : public Box {
   // The document without its looks.
   const std::string& PlainText() const { return plainText_; }
   const RichText& document() const { return document_; }
+  // Grows with every other document; changes() also counts selections.
+  ChangeCount documentChanges() const { return documentChanges_; }
 
   const RichTextBoxLooks& looks() const { return looks_; }
   void Restore() override;
 
  private:
-  Rectangle place_;
+  void WriteTextRTF(std::string rtf);
+
   RichTextBoxLooks looks_;
   RichText document_;
   std::string plainText_;
+  ChangeCount documentChanges_ = 0;
   std::int32_t selectionStart_ = 0;
   std::int32_t selectionLength_ = 0;
 };

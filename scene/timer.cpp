@@ -9,9 +9,8 @@ namespace quintara {
 
 Timer::Timer(Container& container, const ObjectName& name, const TimerStart& start)
     : Object(Kind::Timer, container, name),
-      Enabled(*this, start.enabled),
-      Interval(*this, start.interval),
-      start_(start) {
+      Enabled(properties(), start.enabled, *this, &Timer::WriteEnabled),
+      Interval(properties(), start.interval, *this, &Timer::WriteInterval) {
   form().scene().dispatcher().Add(*this);
 }
 
@@ -29,18 +28,13 @@ void Timer::BeginWait() {
 
 void Timer::WriteEnabled(bool enabled) {
   const bool turnedOn = enabled && !Enabled;
-  Enabled.Keep(enabled, changeCount());
+  Enabled.Keep(enabled);
   if (turnedOn) BeginWait();
 }
 
 void Timer::WriteInterval(std::int32_t milliseconds) {
-  Interval.Keep(std::max(milliseconds, 0), changeCount());
+  Interval.Keep(std::max(milliseconds, 0));
   BeginWait();
-}
-
-void Timer::Restore() {
-  Enabled.Keep(start_.enabled, changeCount());
-  Interval.Keep(start_.interval, changeCount());
 }
 
 }  // namespace quintara

@@ -6,7 +6,6 @@
 #include <limits>
 
 #include "numbers/chance.h"
-#include "scene/property.h"
 
 namespace quintara {
 namespace {
@@ -103,18 +102,6 @@ TEST(ExactText, ReadsBackToTheSameSingle) {
   EXPECT_EQ(ToText(infinity).substr(0, 5), "34028");
   EXPECT_EQ(Format(std::nan(""), Pattern::TwoDecimals), "0.00");
   for (const char* text : {"", "12x", "inf"}) EXPECT_FALSE(ReadDecimal(text).has_value()) << text;
-}
-
-TEST(Text, ComparesCharacterByCharacter) {
-  ChangeCount changes = 0;
-  TextProperty shots(changes, "10");
-  EXPECT_TRUE(shots < "5");
-  EXPECT_FALSE(shots == "5");
-  shots = "10";
-  EXPECT_EQ(changes, 0u) << "the same text is no change";
-  shots = "\xC3\xA9";
-  EXPECT_TRUE(shots > "z") << "bytes count as unsigned";
-  EXPECT_EQ(changes, 1u);
 }
 
 TEST(Chance, NeverReachesOneAndCanBeQueued) {
