@@ -3,9 +3,7 @@
 #include <algorithm>
 
 #include "desktop/units.h"
-#include "scene/buttons.h"
-#include "scene/form.h"
-#include "scene/graphics.h"
+#include "scene/visit.h"
 
 namespace quintara::desktop {
 namespace {
@@ -67,11 +65,11 @@ constexpr Assistance table[] = {
 // clang-format on
 
 QString CaptionOf(const Object& object) {
-  if (const auto* label = dynamic_cast<const Label*>(&object))
-    return ToQString(label->Caption.Get()).simplified();
-  if (const auto* button = dynamic_cast<const Button*>(&object))
-    return ToQString(button->Caption.Get()).simplified();
-  return {};
+  const std::string_view caption = Visit(
+      object, [](const Label& label) -> std::string_view { return label.Caption; },
+      [](const Button& button) -> std::string_view { return button.Caption; },
+      [](const Object&) -> std::string_view { return {}; });
+  return ToQString(caption).simplified();
 }
 
 std::size_t RowOf(const Object& object) {
@@ -96,8 +94,8 @@ const Assistance* AssistanceFor(const Object& object) {
 const Object* ReadOutOf(const Object& object) {
   const Assistance* row = AssistanceFor(object);
   if (row == nullptr) return nullptr;
-  if (row->readOut.empty()) return object.kind() == Kind::Label ? &object : nullptr;
-  return object.form().Find(row->readOut);
+  if (!row->readOut.empty()) return object.form().Find(row->readOut);
+  return As<const Label>(object);
 }
 
 QString AccessibleNameOf(const Object& object) {

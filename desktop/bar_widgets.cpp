@@ -39,10 +39,9 @@ void ShowValue(QAbstractSlider& widget, const Bar& bar) {
 
 }  // namespace
 
-ScrollBarWidget::ScrollBarWidget(ScrollBar& bar, QWidget& parent, Session& session)
-    : QScrollBar(bar.kind() == Kind::HScrollBar ? Qt::Horizontal : Qt::Vertical, &parent),
-      Control(bar, *this, session),
-      bar_(bar) {
+ScrollBarWidget::ScrollBarWidget(ScrollBar& bar, Qt::Orientation orientation, QWidget& parent,
+                                 Session& session)
+    : QScrollBar(orientation, &parent), Control(bar, *this, session), bar_(bar) {
   SetUp(*this, bar);
   // The value changes when the thumb is let go.
   setTracking(false);

@@ -11,7 +11,7 @@ namespace quintara::desktop {
 // A scroll bar. Its widget counts from 0 at the top or left end, since it can't have the larger number there.
 class ScrollBarWidget final : public QScrollBar, public Control {
  public:
-  ScrollBarWidget(ScrollBar& bar, QWidget& parent, Session& session);
+  ScrollBarWidget(ScrollBar& bar, Qt::Orientation orientation, QWidget& parent, Session& session);
 
  protected:
   void ShowLooks() override;

@@ -16,21 +16,9 @@
 #include "desktop/rich_text_widget.h"
 #include "desktop/text_widget.h"
 #include "desktop/units.h"
-#include "scene/box.h"
+#include "scene/visit.h"
 
 namespace quintara::desktop {
-namespace {
-
-// The widget that makes an image or a label known to keyboard and assistive tools; most need none.
-Control* MakeImageButton(Image& image, QWidget& parent, Session& session) {
-  return image.Click.bound() ? new ImageButton(image, parent, session) : nullptr;
-}
-Control* MakeReadOut(Label& label, QWidget& parent, Session& session) {
-  return AssistanceFor(label) != nullptr ? new ReadOut(label, parent, session) : nullptr;
-}
-
-}  // namespace
-
 void Control::Follow(const Zoom& zoom) {
   FollowName();
   // What is hidden is looked at when it shows.
@@ -80,21 +68,27 @@ void Control::FollowName() {
 }
 
 Control* MakeControl(Object& object, QWidget& parent, Session& session) {
-  switch (object.kind()) {
-    case Kind::PictureBox: return new PictureWidget(static_cast<PictureBox&>(object), parent, session);
-    case Kind::Image: return MakeImageButton(static_cast<Image&>(object), parent, session);
-    case Kind::Label: return MakeReadOut(static_cast<Label&>(object), parent, session);
-    case Kind::CommandButton:
-    case Kind::SSCommand: return new ButtonWidget(static_cast<Button&>(object), parent, session);
-    case Kind::SSPanel: return new PanelWidget(static_cast<SSPanel&>(object), parent, session);
-    case Kind::HScrollBar:
-    case Kind::VScrollBar: return new ScrollBarWidget(static_cast<ScrollBar&>(object), parent, session);
-    case Kind::Slider: return new SliderWidget(static_cast<Slider&>(object), parent, session);
-    case Kind::TextBox: return new TextWidget(static_cast<TextBox&>(object), parent, session);
-    case Kind::ListBox: return new ListWidget(static_cast<ListBox&>(object), parent, session);
-    case Kind::RichTextBox: return new RichTextWidget(static_cast<RichTextBox&>(object), parent, session);
-    default: return nullptr;
-  }
+  using Made = Control*;
+  return Visit(
+      object, [&](PictureBox& box) -> Made { return new PictureWidget(box, parent, session); },
+      [&](Button& button) -> Made { return new ButtonWidget(button, parent, session); },
+      [&](SSPanel& panel) -> Made { return new PanelWidget(panel, parent, session); },
+      [&](HScrollBar& bar) -> Made { return new ScrollBarWidget(bar, Qt::Horizontal, parent, session); },
+      [&](VScrollBar& bar) -> Made { return new ScrollBarWidget(bar, Qt::Vertical, parent, session); },
+      [&](Slider& slider) -> Made { return new SliderWidget(slider, parent, session); },
+      [&](TextBox& box) -> Made { return new TextWidget(box, parent, session); },
+      [&](ListBox& box) -> Made { return new ListWidget(box, parent, session); },
+      [&](RichTextBox& box) -> Made { return new RichTextWidget(box, parent, session); },
+      // What makes an image or a label known to the keyboard and to assistive tools; most need nothing.
+      [&](Image& image) -> Made {
+        return image.Click.bound() ? new ImageButton(image, parent, session) : nullptr;
+      },
+      [&](Label& label) -> Made {
+        return AssistanceFor(label) != nullptr ? new ReadOut(label, parent, session) : nullptr;
+      },
+      [](Line&) -> Made { return nullptr; }, [](Shape&) -> Made { return nullptr; },
+      [](Timer&) -> Made { return nullptr; }, [](Menu&) -> Made { return nullptr; },
+      [](Form&) -> Made { return nullptr; });
 }
 
 }  // namespace quintara::desktop

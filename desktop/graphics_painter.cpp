@@ -11,8 +11,7 @@
 #include "desktop/caption_lines.h"
 #include "desktop/pictures.h"
 #include "desktop/units.h"
-#include "scene/form.h"
-#include "scene/graphics.h"
+#include "scene/visit.h"
 
 namespace quintara::desktop {
 namespace {
@@ -158,22 +157,18 @@ void Paint(QPainter& painter, const Image& image, Pictures& pictures) {
 }  // namespace
 
 QRect PaintedArea(const Object& object, Pictures& pictures) {
-  switch (object.kind()) {
-    case Kind::Line: return AreaOf(static_cast<const Line&>(object));
-    case Kind::Image: return AreaOf(static_cast<const Image&>(object), pictures);
-    default: return ToPixels(static_cast<const Box&>(object).Surface());
-  }
+  return Visit(
+      object, [](const Line& line) { return AreaOf(line); },
+      [&](const Image& image) { return AreaOf(image, pictures); },
+      [](const Box& box) { return ToPixels(box.Surface()); }, [](const Object&) { return QRect(); });
 }
 
 void PaintObject(QPainter& painter, const Object& object, Pictures& pictures) {
   painter.save();
-  switch (object.kind()) {
-    case Kind::Label: Paint(painter, static_cast<const Label&>(object)); break;
-    case Kind::Line: Paint(painter, static_cast<const Line&>(object)); break;
-    case Kind::Shape: Paint(painter, static_cast<const Shape&>(object)); break;
-    case Kind::Image: Paint(painter, static_cast<const Image&>(object), pictures); break;
-    default: break;
-  }
+  Visit(
+      object, [&](const Label& label) { Paint(painter, label); },
+      [&](const Line& line) { Paint(painter, line); }, [&](const Shape& shape) { Paint(painter, shape); },
+      [&](const Image& image) { Paint(painter, image, pictures); }, [](const Object&) {});
   painter.restore();
 }
 

@@ -17,13 +17,14 @@
 #include "desktop/units.h"
 #include "scene/input.h"
 #include "scene/scene.h"
+#include "scene/visit.h"
 
 namespace quintara::desktop {
 namespace {
 
 // What a picture box shows; a form shows nothing.
 Picture PictureOf(const Container& container) {
-  const auto* box = dynamic_cast<const PictureBox*>(&container);
+  const auto* box = As<const PictureBox>(container.object());
   return box != nullptr ? box->Picture.Get() : Picture{};
 }
 

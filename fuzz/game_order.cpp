@@ -4,6 +4,7 @@
 
 #include "fuzz/require.h"
 #include "numbers/numbers.h"
+#include "scene/visit.h"
 
 namespace quintara::fuzz {
 namespace {
@@ -17,19 +18,9 @@ void RequireNumbers(const Object& object) {
     const bool finite = (std::isfinite(static_cast<double>(numbers)) && ...);
     Require(finite, "a place is a number", FullName(object));
   };
-  switch (object.kind()) {
-    case Kind::Form:
-    case Kind::Timer:
-    case Kind::Menu: return;
-    case Kind::Line: {
-      const auto& line = static_cast<const Line&>(object);
-      return require(line.X1, line.Y1, line.X2, line.Y2);
-    }
-    default: {
-      const auto& box = static_cast<const Box&>(object);
-      return require(box.Left, box.Top, box.Width, box.Height);
-    }
-  }
+  Visit(
+      object, [&](const Line& line) { require(line.X1, line.Y1, line.X2, line.Y2); },
+      [&](const Box& box) { require(box.Left, box.Top, box.Width, box.Height); }, [](const Object&) {});
 }
 
 void RequireRoom(const Container& surface) {
@@ -57,9 +48,9 @@ void RequireScores(QuintaraForm& form) {
 void RequireGameOrder(Program& program) {
   for (const Form* form : program.scene().forms()) {
     RequireRoom(*form);
-    for (const Object* object : form->objects()) {
+    for (Object* object : form->objects()) {
       RequireNumbers(*object);
-      if (object->kind() == Kind::PictureBox) RequireRoom(static_cast<const PictureBox&>(*object));
+      if (const Container* surface = object->AsContainer()) RequireRoom(*surface);
     }
   }
   QuintaraForm& form = program.quintara();

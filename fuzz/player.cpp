@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "scene/input.h"
+#include "scene/visit.h"
 
 namespace quintara::fuzz {
 namespace {
@@ -12,9 +13,10 @@ std::vector<Object*> Controls(const Scene& scene) {
   std::vector<Object*> controls;
   for (const Form* form : scene.loadedForms()) {
     for (Object* object : form->objects()) {
-      const bool hasPlace = object->kind() != Kind::Timer && object->kind() != Kind::Menu &&
-                            object->kind() != Kind::Label && object->kind() != Kind::Line;
-      if (hasPlace && IsShown(*object) && object->IsEnabled()) controls.push_back(object);
+      const bool answers = Visit(
+          *object, [](Label&) { return false; }, [](Line&) { return false; },
+          [](Object& any) { return any.HasPlace(); });
+      if (answers && IsShown(*object) && object->IsEnabled()) controls.push_back(object);
     }
   }
   return controls;
@@ -62,27 +64,27 @@ void Player::ActInWindow(std::uint8_t which) {
 void Player::Use(Object& object) {
   const std::uint8_t how = bytes_.Take();
   const BarEnd end = how % 2 == 0 ? BarEnd::Min : BarEnd::Max;
-  if (auto* bar = dynamic_cast<ScrollBar*>(&object)) {
-    if (how < 8) {
-      UserPressesArrow(*bar, end);
-    } else if (how < 16) {
-      UserPressesTrough(*bar, end);
-    } else {
-      Lay(*bar);
-    }
-  } else if (auto* slider = dynamic_cast<Slider*>(&object)) {
-    if (how < 16) {
-      UserPressesTrough(*slider, end);
-    } else {
-      UserDragsTo(*slider, how);
-    }
-  } else if (auto* box = dynamic_cast<TextBox*>(&object)) {
-    UserTypes(*box, how);
-  } else if (auto* document = dynamic_cast<RichTextBox*>(&object)) {
-    UserSelects(*document, 16 * how, bytes_.Take());
-  } else {
-    UserClicks(object);
-  }
+  Visit(
+      object,
+      [&](ScrollBar& bar) {
+        if (how < 8) {
+          UserPressesArrow(bar, end);
+        } else if (how < 16) {
+          UserPressesTrough(bar, end);
+        } else {
+          Lay(bar);
+        }
+      },
+      [&](Slider& slider) {
+        if (how < 16) {
+          UserPressesTrough(slider, end);
+        } else {
+          UserDragsTo(slider, how);
+        }
+      },
+      [&](TextBox& box) { UserTypes(box, how); },
+      [&](RichTextBox& box) { UserSelects(box, 16 * how, bytes_.Take()); },
+      [](Object& other) { UserClicks(other); });
 }
 
 void Player::Advance(std::int64_t milliseconds) {

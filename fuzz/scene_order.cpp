@@ -5,6 +5,7 @@
 #include "fuzz/require.h"
 #include "host/names.h"
 #include "host/properties.h"
+#include "scene/visit.h"
 #include "text/utf8.h"
 
 namespace quintara::fuzz {
@@ -21,7 +22,7 @@ std::vector<std::string> ValuesOf(Form& form) {
   add(form);
   for (Object* object : form.objects()) {
     add(*object);
-    if (const auto* surface = dynamic_cast<Container*>(object)) {
+    if (const Container* surface = object->AsContainer()) {
       values.push_back(std::to_string(surface->DrawWidth) + " " + std::to_string(surface->dots().size()));
     }
   }
@@ -50,13 +51,10 @@ void RequireSelectionInText(const RichTextBox& box) {
 }
 
 void RequireOrder(const Object& object) {
-  switch (object.kind()) {
-    case Kind::HScrollBar:
-    case Kind::VScrollBar: return RequireInRange(static_cast<const ScrollBar&>(object));
-    case Kind::Slider: return RequireInRange(static_cast<const Slider&>(object));
-    case Kind::RichTextBox: return RequireSelectionInText(static_cast<const RichTextBox&>(object));
-    default: return;
-  }
+  Visit(
+      object, [](const ScrollBar& bar) { RequireInRange(bar); },
+      [](const Slider& slider) { RequireInRange(slider); },
+      [](const RichTextBox& box) { RequireSelectionInText(box); }, [](const Object&) {});
 }
 
 }  // namespace

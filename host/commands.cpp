@@ -5,6 +5,7 @@
 
 #include "host/names.h"
 #include "host/properties.h"
+#include "scene/visit.h"
 #include "text/utf8.h"
 
 namespace quintara::host {
@@ -27,7 +28,7 @@ Form& LoadedFormIn(const Host& host, const Word& word) {
 // The object that a command names, which has to be of one kind.
 template <typename Control>
 Control& ControlIn(const Host& host, const Word& word, const char* kind) {
-  auto* control = dynamic_cast<Control*>(&ObjectIn(host, word));
+  auto* control = As<Control>(ObjectIn(host, word));
   if (control == nullptr) throw Refusal(std::string("the object is no ") + kind);
   return *control;
 }
@@ -70,26 +71,26 @@ InputResult Set(Host& host, const Arguments& arguments) {
 
 InputResult Click(Host& host, const Arguments& arguments) {
   Object& object = ObjectIn(host, arguments[0]);
-  const bool hasClick = dynamic_cast<Button*>(&object) != nullptr || dynamic_cast<Image*>(&object) != nullptr;
-  if (!hasClick) throw Refusal("the object is no button or image");
+  if (object.ClickEvent() == nullptr) throw Refusal("the object is no button or image");
   return UserClicks(object);
 }
 
 InputResult Move(Host& host, const Arguments& arguments) {
   Object& object = ObjectIn(host, arguments[0]);
-  if (object.kind() == Kind::Timer || object.kind() == Kind::Menu) {
-    throw Refusal("the object has no place on its form");
-  }
+  if (!object.HasPlace()) throw Refusal("the object has no place on its form");
   return UserMovesOnto(object);
 }
 
+template <typename Action>
+InputResult UseAnyBar(Object& object, const Action& action) {
+  return Visit(
+      object, [&](ScrollBar& bar) { return action(bar); }, [&](Slider& slider) { return action(slider); },
+      [](Object&) -> InputResult { throw Refusal("the object is no scroll bar or slider"); });
+}
+
 InputResult Scroll(Host& host, const Arguments& arguments) {
-  Object& object = ObjectIn(host, arguments[0]);
-  if (auto* bar = dynamic_cast<ScrollBar*>(&object)) {
-    return UserDragsTo(*bar, ReadBarValue(*bar, arguments[1]));
-  }
-  auto& slider = ControlIn<Slider>(host, arguments[0], "scroll bar or slider");
-  return UserDragsTo(slider, ReadBarValue(slider, arguments[1]));
+  return UseAnyBar(ObjectIn(host, arguments[0]),
+                   [&](auto& bar) { return UserDragsTo(bar, ReadBarValue(bar, arguments[1])); });
 }
 
 InputResult Arrow(Host& host, const Arguments& arguments) {
@@ -100,8 +101,7 @@ InputResult Arrow(Host& host, const Arguments& arguments) {
 InputResult Trough(Host& host, const Arguments& arguments) {
   Object& object = ObjectIn(host, arguments[0]);
   const BarEnd end = EndIn(arguments[1]);
-  if (auto* bar = dynamic_cast<ScrollBar*>(&object)) return UserPressesTrough(*bar, end);
-  return UserPressesTrough(ControlIn<Slider>(host, arguments[0], "scroll bar or slider"), end);
+  return UseAnyBar(object, [end](auto& bar) { return UserPressesTrough(bar, end); });
 }
 
 InputResult Type(Host& host, const Arguments& arguments) {
@@ -160,9 +160,10 @@ InputResult QueueAnswer(Host& host, const Arguments& arguments) {
 }
 
 InputResult Dots(Host& host, const Arguments& arguments) {
-  const auto& surface = ControlIn<Container>(host, arguments[0], "form or picture box");
-  if (!surface.form().loaded()) throw Refusal("the form is not loaded");
-  for (const Dot& dot : surface.dots()) {
+  const Container* surface = ObjectIn(host, arguments[0]).AsContainer();
+  if (surface == nullptr) throw Refusal("the object is no form or picture box");
+  if (!surface->form().loaded()) throw Refusal("the form is not loaded");
+  for (const Dot& dot : surface->dots()) {
     host.out << Decimal::Write(dot.x) << ' ' << Decimal::Write(dot.y) << ' ' << ColourCode::Write(dot.colour)
              << ' ' << Integer16::Write(dot.width) << '\n';
   }

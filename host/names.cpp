@@ -1,7 +1,7 @@
 #include "host/names.h"
 
 #include "host/values.h"
-#include "scene/menu.h"
+#include "scene/visit.h"
 
 namespace quintara::host {
 namespace {
@@ -46,7 +46,8 @@ std::string PathOf(const Object& object) {
 bool IsMenuItem(const Scene& scene, std::string_view name) {
   for (const Form* form : scene.forms()) {
     for (const Object* object : form->objects()) {
-      if (object->kind() == Kind::Menu && HasItem(static_cast<const Menu&>(*object), name)) return true;
+      const auto* menu = As<const Menu>(*object);
+      if (menu != nullptr && HasItem(*menu, name)) return true;
     }
   }
   return false;

@@ -3,6 +3,7 @@
 #include <span>
 
 #include "scene/scene.h"
+#include "scene/visit.h"
 
 namespace quintara::host {
 namespace {
@@ -13,10 +14,14 @@ struct Access {
   Assignment (*prepare)(Object&, const Word&) = nullptr;  // null: it can only be read
 };
 
-// Some properties belong to the Container that a form or picture box also is, hence the dynamic cast.
+// The part of an object that has a property. That of a form or picture box may be the Container in it.
 template <typename Owner, typename Member>
 Owner& OwnerOf(Object& object, Member Owner::*) {
-  return dynamic_cast<Owner&>(object);
+  return static_cast<Owner&>(object);
+}
+template <typename Member>
+Container& OwnerOf(Object& object, Member Container::*) {
+  return *object.AsContainer();
 }
 
 template <typename Value, auto member>
@@ -102,151 +107,181 @@ struct Rule {
   bool dumped = true;
 };
 
-// Each table stands in the order of the dump; what only `get` tells comes behind.
+using Rules = std::span<const Rule>;
 
-constexpr Rule formRules[] = {
-    {"Caption", plain<Text, &Form::Caption>},
-    {"Left", plain<Decimal, &Form::Left>},
-    {"Top", plain<Decimal, &Form::Top>},
-    {"Width", plain<Decimal, &Form::Width>},
-    {"Height", plain<Decimal, &Form::Height>},
-    {"Visible", isShown},
-    {"Loaded", isLoaded, false},
-    {"DrawWidth", plainWhere<Integer16, &Form::DrawWidth, IsDotWidth>, false},
-    {"ScaleMode", plainWhere<Integer16, &Form::ScaleMode, IsScaleMode>, false},
-    {"ScaleWidth", plainWhere<Decimal, &Form::ScaleWidth, IsScaleWidth>, false},
-    {"ScaleHeight", plainWhere<Decimal, &Form::ScaleHeight, IsScaleHeight>, false},
-};
+// One table a kind, or for those that share a class. Each stands in the order of the dump; what only `get`
+// tells comes behind.
 
-constexpr Rule pictureBoxRules[] = {
-    {"Left", plain<Decimal, &PictureBox::Left>},
-    {"Top", plain<Decimal, &PictureBox::Top>},
-    {"Width", plain<Decimal, &PictureBox::Width>},
-    {"Height", plain<Decimal, &PictureBox::Height>},
-    {"Visible", plain<Boolean, &PictureBox::Visible>},
-    {"Picture", picture},
-    {"DrawWidth", plainWhere<Integer16, &PictureBox::DrawWidth, IsDotWidth>, false},
-};
+Rules RulesFor(const Form&) {
+  static constexpr Rule rules[] = {
+      {"Caption", plain<Text, &Form::Caption>},
+      {"Left", plain<Decimal, &Form::Left>},
+      {"Top", plain<Decimal, &Form::Top>},
+      {"Width", plain<Decimal, &Form::Width>},
+      {"Height", plain<Decimal, &Form::Height>},
+      {"Visible", isShown},
+      {"Loaded", isLoaded, false},
+      {"DrawWidth", plainWhere<Integer16, &Form::DrawWidth, IsDotWidth>, false},
+      {"ScaleMode", plainWhere<Integer16, &Form::ScaleMode, IsScaleMode>, false},
+      {"ScaleWidth", plainWhere<Decimal, &Form::ScaleWidth, IsScaleWidth>, false},
+      {"ScaleHeight", plainWhere<Decimal, &Form::ScaleHeight, IsScaleHeight>, false},
+  };
+  return rules;
+}
 
-constexpr Rule labelRules[] = {
-    {"Caption", plain<Text, &Label::Caption>},
-    {"Visible", plain<Boolean, &Label::Visible>},
-    {"BackColor", plain<ColourCode, &Label::BackColor>},
-    {"ForeColor", plain<ColourCode, &Label::ForeColor>},
-    {"Left", plain<Decimal, &Label::Left>},
-    {"Top", plain<Decimal, &Label::Top>},
-    {"Width", plain<Decimal, &Label::Width>},
-    {"Height", plain<Decimal, &Label::Height>},
-};
+Rules RulesFor(const PictureBox&) {
+  static constexpr Rule rules[] = {
+      {"Left", plain<Decimal, &PictureBox::Left>},
+      {"Top", plain<Decimal, &PictureBox::Top>},
+      {"Width", plain<Decimal, &PictureBox::Width>},
+      {"Height", plain<Decimal, &PictureBox::Height>},
+      {"Visible", plain<Boolean, &PictureBox::Visible>},
+      {"Picture", picture},
+      {"DrawWidth", plainWhere<Integer16, &PictureBox::DrawWidth, IsDotWidth>, false},
+  };
+  return rules;
+}
 
-constexpr Rule lineRules[] = {
-    {"X1", plain<Decimal, &Line::X1>},           {"Y1", plain<Decimal, &Line::Y1>},
-    {"X2", plain<Decimal, &Line::X2>},           {"Y2", plain<Decimal, &Line::Y2>},
-    {"Visible", plain<Boolean, &Line::Visible>}, {"BorderColor", plain<ColourCode, &Line::BorderColor>},
-};
+Rules RulesFor(const Label&) {
+  static constexpr Rule rules[] = {
+      {"Caption", plain<Text, &Label::Caption>},
+      {"Visible", plain<Boolean, &Label::Visible>},
+      {"BackColor", plain<ColourCode, &Label::BackColor>},
+      {"ForeColor", plain<ColourCode, &Label::ForeColor>},
+      {"Left", plain<Decimal, &Label::Left>},
+      {"Top", plain<Decimal, &Label::Top>},
+      {"Width", plain<Decimal, &Label::Width>},
+      {"Height", plain<Decimal, &Label::Height>},
+  };
+  return rules;
+}
 
-constexpr Rule shapeRules[] = {
-    {"Left", plain<Decimal, &Shape::Left>},       {"Top", plain<Decimal, &Shape::Top>},
-    {"Width", plain<Decimal, &Shape::Width>},     {"Height", plain<Decimal, &Shape::Height>},
-    {"Visible", plain<Boolean, &Shape::Visible>}, {"BorderColor", plain<ColourCode, &Shape::BorderColor>},
-};
+Rules RulesFor(const Line&) {
+  static constexpr Rule rules[] = {
+      {"X1", plain<Decimal, &Line::X1>},           {"Y1", plain<Decimal, &Line::Y1>},
+      {"X2", plain<Decimal, &Line::X2>},           {"Y2", plain<Decimal, &Line::Y2>},
+      {"Visible", plain<Boolean, &Line::Visible>}, {"BorderColor", plain<ColourCode, &Line::BorderColor>},
+  };
+  return rules;
+}
 
-constexpr Rule imageRules[] = {
-    {"Left", plain<Decimal, &Image::Left>},       {"Top", plain<Decimal, &Image::Top>},
-    {"Width", plain<Decimal, &Image::Width>},     {"Height", plain<Decimal, &Image::Height>},
-    {"Visible", plain<Boolean, &Image::Visible>}, {"Enabled", plain<Boolean, &Image::Enabled>},
-};
+Rules RulesFor(const Shape&) {
+  static constexpr Rule rules[] = {
+      {"Left", plain<Decimal, &Shape::Left>},       {"Top", plain<Decimal, &Shape::Top>},
+      {"Width", plain<Decimal, &Shape::Width>},     {"Height", plain<Decimal, &Shape::Height>},
+      {"Visible", plain<Boolean, &Shape::Visible>}, {"BorderColor", plain<ColourCode, &Shape::BorderColor>},
+  };
+  return rules;
+}
 
-constexpr Rule buttonRules[] = {
-    {"Caption", plain<Text, &Button::Caption>},    {"Left", plain<Decimal, &Button::Left>},
-    {"Top", plain<Decimal, &Button::Top>},         {"Width", plain<Decimal, &Button::Width>},
-    {"Height", plain<Decimal, &Button::Height>},   {"Enabled", plain<Boolean, &Button::Enabled>},
-    {"Visible", plain<Boolean, &Button::Visible>},
-};
+Rules RulesFor(const Image&) {
+  static constexpr Rule rules[] = {
+      {"Left", plain<Decimal, &Image::Left>},       {"Top", plain<Decimal, &Image::Top>},
+      {"Width", plain<Decimal, &Image::Width>},     {"Height", plain<Decimal, &Image::Height>},
+      {"Visible", plain<Boolean, &Image::Visible>}, {"Enabled", plain<Boolean, &Image::Enabled>},
+  };
+  return rules;
+}
 
-constexpr Rule panelRules[] = {
-    {"Caption", plain<Text, &SSPanel::Caption>},  {"Left", plain<Decimal, &SSPanel::Left>},
-    {"Top", plain<Decimal, &SSPanel::Top>},       {"Width", plain<Decimal, &SSPanel::Width>},
-    {"Height", plain<Decimal, &SSPanel::Height>},
-};
+Rules RulesFor(const Button&) {
+  static constexpr Rule rules[] = {
+      {"Caption", plain<Text, &Button::Caption>},    {"Left", plain<Decimal, &Button::Left>},
+      {"Top", plain<Decimal, &Button::Top>},         {"Width", plain<Decimal, &Button::Width>},
+      {"Height", plain<Decimal, &Button::Height>},   {"Enabled", plain<Boolean, &Button::Enabled>},
+      {"Visible", plain<Boolean, &Button::Visible>},
+  };
+  return rules;
+}
 
-constexpr Rule scrollBarRules[] = {
-    {"Value", barValue<ScrollBar, Integer16>},
-    {"Enabled", plain<Boolean, &ScrollBar::Enabled>},
-    {"Min", readOnly<Integer16, &ScrollBar::Min>},
-    {"Max", readOnly<Integer16, &ScrollBar::Max>},
-    {"SmallChange", readOnly<Integer16, &ScrollBar::SmallChange>},
-    {"LargeChange", readOnly<Integer16, &ScrollBar::LargeChange>},
-};
+Rules RulesFor(const SSPanel&) {
+  static constexpr Rule rules[] = {
+      {"Caption", plain<Text, &SSPanel::Caption>},  {"Left", plain<Decimal, &SSPanel::Left>},
+      {"Top", plain<Decimal, &SSPanel::Top>},       {"Width", plain<Decimal, &SSPanel::Width>},
+      {"Height", plain<Decimal, &SSPanel::Height>},
+  };
+  return rules;
+}
 
-constexpr Rule sliderRules[] = {
-    {"Value", barValue<Slider, Integer32>},
-    {"Min", readOnly<Integer32, &Slider::Min>},
-    {"Max", readOnly<Integer32, &Slider::Max>},
-};
+Rules RulesFor(const ScrollBar&) {
+  static constexpr Rule rules[] = {
+      {"Value", barValue<ScrollBar, Integer16>},
+      {"Enabled", plain<Boolean, &ScrollBar::Enabled>},
+      {"Min", readOnly<Integer16, &ScrollBar::Min>},
+      {"Max", readOnly<Integer16, &ScrollBar::Max>},
+      {"SmallChange", readOnly<Integer16, &ScrollBar::SmallChange>},
+      {"LargeChange", readOnly<Integer16, &ScrollBar::LargeChange>},
+  };
+  return rules;
+}
 
-constexpr Rule timerRules[] = {
-    {"Enabled", plain<Boolean, &Timer::Enabled>},
-    {"Interval", plainWhere<Integer32, &Timer::Interval, IsInterval>},
-};
+Rules RulesFor(const Slider&) {
+  static constexpr Rule rules[] = {
+      {"Value", barValue<Slider, Integer32>},
+      {"Min", readOnly<Integer32, &Slider::Min>},
+      {"Max", readOnly<Integer32, &Slider::Max>},
+  };
+  return rules;
+}
 
-constexpr Rule textBoxRules[] = {
-    {"Text", plain<Text, &TextBox::Text>},
-    {"Visible", plain<Boolean, &TextBox::Visible>},
-};
+Rules RulesFor(const Timer&) {
+  static constexpr Rule rules[] = {
+      {"Enabled", plain<Boolean, &Timer::Enabled>},
+      {"Interval", plainWhere<Integer32, &Timer::Interval, IsInterval>},
+  };
+  return rules;
+}
 
-constexpr Rule listBoxRules[] = {
-    {"ListCount", listCount},
-};
+Rules RulesFor(const TextBox&) {
+  static constexpr Rule rules[] = {
+      {"Text", plain<Text, &TextBox::Text>},
+      {"Visible", plain<Boolean, &TextBox::Visible>},
+  };
+  return rules;
+}
 
-constexpr Rule richTextBoxRules[] = {
-    {"Left", plain<Decimal, &RichTextBox::Left>},
-    {"Top", plain<Decimal, &RichTextBox::Top>},
-    {"Width", plain<Decimal, &RichTextBox::Width>},
-    {"Height", plain<Decimal, &RichTextBox::Height>},
-    {"Visible", plain<Boolean, &RichTextBox::Visible>},
-    {"SelLength", selLength},
-    {"SelText", selText, false},
-    {"TextRTF", plain<Text, &RichTextBox::TextRTF>, false},
-};
+Rules RulesFor(const ListBox&) {
+  static constexpr Rule rules[] = {
+      {"ListCount", listCount},
+  };
+  return rules;
+}
 
-constexpr Rule menuRules[] = {
-    {"Caption", plain<Text, &Menu::Caption>},
-    {"Visible", plain<Boolean, &Menu::Visible>},
-};
+Rules RulesFor(const RichTextBox&) {
+  static constexpr Rule rules[] = {
+      {"Left", plain<Decimal, &RichTextBox::Left>},
+      {"Top", plain<Decimal, &RichTextBox::Top>},
+      {"Width", plain<Decimal, &RichTextBox::Width>},
+      {"Height", plain<Decimal, &RichTextBox::Height>},
+      {"Visible", plain<Boolean, &RichTextBox::Visible>},
+      {"SelLength", selLength},
+      {"SelText", selText, false},
+      {"TextRTF", plain<Text, &RichTextBox::TextRTF>, false},
+  };
+  return rules;
+}
 
-std::span<const Rule> RulesOf(Kind kind) {
-  switch (kind) {
-    case Kind::Form: return formRules;
-    case Kind::PictureBox: return pictureBoxRules;
-    case Kind::Label: return labelRules;
-    case Kind::Line: return lineRules;
-    case Kind::Shape: return shapeRules;
-    case Kind::Image: return imageRules;
-    case Kind::CommandButton:
-    case Kind::SSCommand: return buttonRules;
-    case Kind::SSPanel: return panelRules;
-    case Kind::HScrollBar:
-    case Kind::VScrollBar: return scrollBarRules;
-    case Kind::Slider: return sliderRules;
-    case Kind::Timer: return timerRules;
-    case Kind::TextBox: return textBoxRules;
-    case Kind::ListBox: return listBoxRules;
-    case Kind::RichTextBox: return richTextBoxRules;
-    case Kind::Menu: return menuRules;
-  }
-  return {};
+Rules RulesFor(const Menu&) {
+  static constexpr Rule rules[] = {
+      {"Caption", plain<Text, &Menu::Caption>},
+      {"Visible", plain<Boolean, &Menu::Visible>},
+  };
+  return rules;
+}
+
+Rules RulesOf(const Object& object) {
+  return Visit(object, [](const auto& one) { return RulesFor(one); });
 }
 
 const Access& AccessTo(const Object& object, std::string_view name) {
-  for (const Rule& rule : RulesOf(object.kind())) {
+  for (const Rule& rule : RulesOf(object)) {
     if (rule.name == name) return rule.access;
   }
   throw Refusal("the object has no property " + Quoted(name));
 }
 
-bool IsListItem(const Object& object, std::string_view name) {
-  return object.kind() == Kind::ListBox && name.starts_with("List(");
+// The list box of which such a name means an item; null where it means no item.
+const ListBox* ListOfItem(const Object& object, std::string_view name) {
+  return name.starts_with("List(") ? As<const ListBox>(object) : nullptr;
 }
 
 std::string ReadListItem(const ListBox& list, std::string_view name) {
@@ -265,27 +300,27 @@ typename Value::Type WithinBar(const Bar& bar, const Word& word) {
 }  // namespace
 
 std::string ReadProperty(Object& object, std::string_view name) {
-  const bool ofAnyForm = object.kind() == Kind::Form && (name == "Loaded" || name == "Visible");
+  const bool isForm = &object == &object.form();
+  const bool ofAnyForm = isForm && (name == "Loaded" || name == "Visible");
   if (!object.form().loaded() && !ofAnyForm) throw Refusal("the form is not loaded");
-  if (IsListItem(object, name)) return ReadListItem(static_cast<const ListBox&>(object), name);
+  if (const ListBox* list = ListOfItem(object, name)) return ReadListItem(*list, name);
   return AccessTo(object, name).read(object);
 }
 
 Assignment PrepareAssignment(Object& object, std::string_view name, const Word& value) {
-  const auto prepare = IsListItem(object, name) ? nullptr : AccessTo(object, name).prepare;
+  const auto prepare = ListOfItem(object, name) != nullptr ? nullptr : AccessTo(object, name).prepare;
   if (prepare == nullptr) throw Refusal("the property can only be read");
   return prepare(object, value);
 }
 
 std::vector<NamedValue> DumpedProperties(Object& object) {
   std::vector<NamedValue> values;
-  for (const Rule& rule : RulesOf(object.kind())) {
+  for (const Rule& rule : RulesOf(object)) {
     if (rule.dumped) values.push_back({std::string(rule.name), rule.access.read(object)});
   }
-  if (object.kind() != Kind::ListBox) return values;
-  const auto& list = static_cast<const ListBox&>(object);
-  for (std::int16_t i = 0; i < list.ListCount(); ++i) {
-    values.push_back({"List(" + std::to_string(i) + ")", Text::Write(list.List(i))});
+  const auto* list = As<const ListBox>(object);
+  for (std::int16_t i = 0; list != nullptr && i < list->ListCount(); ++i) {
+    values.push_back({"List(" + std::to_string(i) + ")", Text::Write(list->List(i))});
   }
   return values;
 }

@@ -10,6 +10,7 @@
 #include "host/names.h"
 #include "host/properties.h"
 #include "program/program.h"
+#include "scene/visit.h"
 
 namespace quintara::fuzz {
 namespace {
@@ -75,8 +76,10 @@ class TalkingHost {
     const std::string what = host::PathOf(object) + "." + property.name + " = " + property.value;
     const std::vector<host::Word> words = WordsOf(property.value);
     Require(words.size() == 1 && property.value.find('\n') == std::string::npos, "a value is one word", what);
-    const bool readOnly = object.kind() == Kind::ListBox || property.name == "SelLength" ||
-                          property.name == "Picture" || (IsBar(object) && property.name != "Enabled");
+    const bool readOnly = Visit(
+        object, [](const ListBox&) { return true; },
+        [&](const ScrollBar&) { return property.name != "Enabled"; }, [](const Slider&) { return true; },
+        [&](const Object&) { return property.name == "SelLength" || property.name == "Picture"; });
     if (readOnly) return;
     try {
       host::PrepareAssignment(object, property.name, words[0])();
@@ -84,11 +87,6 @@ class TalkingHost {
       Require(false, refusal.what(), what);
     }
     Require(host::ReadProperty(object, property.name) == property.value, "a value reads back", what);
-  }
-
-  static bool IsBar(const Object& object) {
-    return object.kind() == Kind::HScrollBar || object.kind() == Kind::VScrollBar ||
-           object.kind() == Kind::Slider;
   }
 
   static std::string ClosingLine(const std::string& printed) {
