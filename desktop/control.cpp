@@ -68,27 +68,26 @@ void Control::FollowName() {
 }
 
 Control* MakeControl(Object& object, QWidget& parent, Session& session) {
-  using Made = Control*;
-  return Visit(
-      object, [&](PictureBox& box) -> Made { return new PictureWidget(box, parent, session); },
-      [&](Button& button) -> Made { return new ButtonWidget(button, parent, session); },
-      [&](SSPanel& panel) -> Made { return new PanelWidget(panel, parent, session); },
-      [&](HScrollBar& bar) -> Made { return new ScrollBarWidget(bar, Qt::Horizontal, parent, session); },
-      [&](VScrollBar& bar) -> Made { return new ScrollBarWidget(bar, Qt::Vertical, parent, session); },
-      [&](Slider& slider) -> Made { return new SliderWidget(slider, parent, session); },
-      [&](TextBox& box) -> Made { return new TextWidget(box, parent, session); },
-      [&](ListBox& box) -> Made { return new ListWidget(box, parent, session); },
-      [&](RichTextBox& box) -> Made { return new RichTextWidget(box, parent, session); },
-      // What makes an image or a label known to the keyboard and to assistive tools; most need nothing.
-      [&](Image& image) -> Made {
-        return image.Click.bound() ? new ImageButton(image, parent, session) : nullptr;
+  Control* made = nullptr;
+  Visit(
+      object, [&](PictureBox& box) { made = new PictureWidget(box, parent, session); },
+      [&](Button& button) { made = new ButtonWidget(button, parent, session); },
+      [&](SSPanel& panel) { made = new PanelWidget(panel, parent, session); },
+      [&](HScrollBar& bar) { made = new ScrollBarWidget(bar, Qt::Horizontal, parent, session); },
+      [&](VScrollBar& bar) { made = new ScrollBarWidget(bar, Qt::Vertical, parent, session); },
+      [&](Slider& slider) { made = new SliderWidget(slider, parent, session); },
+      [&](TextBox& box) { made = new TextWidget(box, parent, session); },
+      [&](ListBox& box) { made = new ListWidget(box, parent, session); },
+      [&](RichTextBox& box) { made = new RichTextWidget(box, parent, session); },
+      // Those that are painted need a widget where keyboard and assistive tools have to know them.
+      [&](Image& image) {
+        if (image.Click.bound()) made = new ImageButton(image, parent, session);
       },
-      [&](Label& label) -> Made {
-        return AssistanceFor(label) != nullptr ? new ReadOut(label, parent, session) : nullptr;
+      [&](Label& label) {
+        if (AssistanceFor(label) != nullptr) made = new ReadOut(label, parent, session);
       },
-      [](Line&) -> Made { return nullptr; }, [](Shape&) -> Made { return nullptr; },
-      [](Timer&) -> Made { return nullptr; }, [](Menu&) -> Made { return nullptr; },
-      [](Form&) -> Made { return nullptr; });
+      [](Line&) {}, [](Shape&) {}, [](Timer&) {}, [](Menu&) {}, [](Form&) {});
+  return made;
 }
 
 }  // namespace quintara::desktop

@@ -109,8 +109,16 @@ struct Rule {
 
 using Rules = std::span<const Rule>;
 
+// What every box has.
+constexpr Rule boxLeft{"Left", plain<Decimal, &Box::Left>};
+constexpr Rule boxTop{"Top", plain<Decimal, &Box::Top>};
+constexpr Rule boxWidth{"Width", plain<Decimal, &Box::Width>};
+constexpr Rule boxHeight{"Height", plain<Decimal, &Box::Height>};
+constexpr Rule boxVisible{"Visible", plain<Boolean, &Box::Visible>};
+
 // One table a kind, or for those that share a class. Each stands in the order of the dump; what only `get`
 // tells comes behind.
+// clang-format off
 
 Rules RulesFor(const Form&) {
   static constexpr Rule rules[] = {
@@ -131,11 +139,7 @@ Rules RulesFor(const Form&) {
 
 Rules RulesFor(const PictureBox&) {
   static constexpr Rule rules[] = {
-      {"Left", plain<Decimal, &PictureBox::Left>},
-      {"Top", plain<Decimal, &PictureBox::Top>},
-      {"Width", plain<Decimal, &PictureBox::Width>},
-      {"Height", plain<Decimal, &PictureBox::Height>},
-      {"Visible", plain<Boolean, &PictureBox::Visible>},
+      boxLeft, boxTop, boxWidth, boxHeight, boxVisible,
       {"Picture", picture},
       {"DrawWidth", plainWhere<Integer16, &PictureBox::DrawWidth, IsDotWidth>, false},
   };
@@ -145,59 +149,56 @@ Rules RulesFor(const PictureBox&) {
 Rules RulesFor(const Label&) {
   static constexpr Rule rules[] = {
       {"Caption", plain<Text, &Label::Caption>},
-      {"Visible", plain<Boolean, &Label::Visible>},
+      boxVisible,
       {"BackColor", plain<ColourCode, &Label::BackColor>},
       {"ForeColor", plain<ColourCode, &Label::ForeColor>},
-      {"Left", plain<Decimal, &Label::Left>},
-      {"Top", plain<Decimal, &Label::Top>},
-      {"Width", plain<Decimal, &Label::Width>},
-      {"Height", plain<Decimal, &Label::Height>},
+      boxLeft, boxTop, boxWidth, boxHeight,
   };
   return rules;
 }
 
 Rules RulesFor(const Line&) {
   static constexpr Rule rules[] = {
-      {"X1", plain<Decimal, &Line::X1>},           {"Y1", plain<Decimal, &Line::Y1>},
-      {"X2", plain<Decimal, &Line::X2>},           {"Y2", plain<Decimal, &Line::Y2>},
-      {"Visible", plain<Boolean, &Line::Visible>}, {"BorderColor", plain<ColourCode, &Line::BorderColor>},
+      {"X1", plain<Decimal, &Line::X1>},
+      {"Y1", plain<Decimal, &Line::Y1>},
+      {"X2", plain<Decimal, &Line::X2>},
+      {"Y2", plain<Decimal, &Line::Y2>},
+      {"Visible", plain<Boolean, &Line::Visible>},
+      {"BorderColor", plain<ColourCode, &Line::BorderColor>},
   };
   return rules;
 }
 
 Rules RulesFor(const Shape&) {
   static constexpr Rule rules[] = {
-      {"Left", plain<Decimal, &Shape::Left>},       {"Top", plain<Decimal, &Shape::Top>},
-      {"Width", plain<Decimal, &Shape::Width>},     {"Height", plain<Decimal, &Shape::Height>},
-      {"Visible", plain<Boolean, &Shape::Visible>}, {"BorderColor", plain<ColourCode, &Shape::BorderColor>},
+      boxLeft, boxTop, boxWidth, boxHeight, boxVisible,
+      {"BorderColor", plain<ColourCode, &Shape::BorderColor>},
   };
   return rules;
 }
 
 Rules RulesFor(const Image&) {
   static constexpr Rule rules[] = {
-      {"Left", plain<Decimal, &Image::Left>},       {"Top", plain<Decimal, &Image::Top>},
-      {"Width", plain<Decimal, &Image::Width>},     {"Height", plain<Decimal, &Image::Height>},
-      {"Visible", plain<Boolean, &Image::Visible>}, {"Enabled", plain<Boolean, &Image::Enabled>},
+      boxLeft, boxTop, boxWidth, boxHeight, boxVisible,
+      {"Enabled", plain<Boolean, &Image::Enabled>},
   };
   return rules;
 }
 
 Rules RulesFor(const Button&) {
   static constexpr Rule rules[] = {
-      {"Caption", plain<Text, &Button::Caption>},    {"Left", plain<Decimal, &Button::Left>},
-      {"Top", plain<Decimal, &Button::Top>},         {"Width", plain<Decimal, &Button::Width>},
-      {"Height", plain<Decimal, &Button::Height>},   {"Enabled", plain<Boolean, &Button::Enabled>},
-      {"Visible", plain<Boolean, &Button::Visible>},
+      {"Caption", plain<Text, &Button::Caption>},
+      boxLeft, boxTop, boxWidth, boxHeight,
+      {"Enabled", plain<Boolean, &Button::Enabled>},
+      boxVisible,
   };
   return rules;
 }
 
 Rules RulesFor(const SSPanel&) {
   static constexpr Rule rules[] = {
-      {"Caption", plain<Text, &SSPanel::Caption>},  {"Left", plain<Decimal, &SSPanel::Left>},
-      {"Top", plain<Decimal, &SSPanel::Top>},       {"Width", plain<Decimal, &SSPanel::Width>},
-      {"Height", plain<Decimal, &SSPanel::Height>},
+      {"Caption", plain<Text, &SSPanel::Caption>},
+      boxLeft, boxTop, boxWidth, boxHeight,
   };
   return rules;
 }
@@ -234,7 +235,7 @@ Rules RulesFor(const Timer&) {
 Rules RulesFor(const TextBox&) {
   static constexpr Rule rules[] = {
       {"Text", plain<Text, &TextBox::Text>},
-      {"Visible", plain<Boolean, &TextBox::Visible>},
+      boxVisible,
   };
   return rules;
 }
@@ -248,11 +249,7 @@ Rules RulesFor(const ListBox&) {
 
 Rules RulesFor(const RichTextBox&) {
   static constexpr Rule rules[] = {
-      {"Left", plain<Decimal, &RichTextBox::Left>},
-      {"Top", plain<Decimal, &RichTextBox::Top>},
-      {"Width", plain<Decimal, &RichTextBox::Width>},
-      {"Height", plain<Decimal, &RichTextBox::Height>},
-      {"Visible", plain<Boolean, &RichTextBox::Visible>},
+      boxLeft, boxTop, boxWidth, boxHeight, boxVisible,
       {"SelLength", selLength},
       {"SelText", selText, false},
       {"TextRTF", plain<Text, &RichTextBox::TextRTF>, false},
@@ -267,6 +264,7 @@ Rules RulesFor(const Menu&) {
   };
   return rules;
 }
+// clang-format on
 
 Rules RulesOf(const Object& object) {
   return Visit(object, [](const auto& one) { return RulesFor(one); });
@@ -300,8 +298,7 @@ typename Value::Type WithinBar(const Bar& bar, const Word& word) {
 }  // namespace
 
 std::string ReadProperty(Object& object, std::string_view name) {
-  const bool isForm = &object == &object.form();
-  const bool ofAnyForm = isForm && (name == "Loaded" || name == "Visible");
+  const bool ofAnyForm = object.container() == nullptr && (name == "Loaded" || name == "Visible");
   if (!object.form().loaded() && !ofAnyForm) throw Refusal("the form is not loaded");
   if (const ListBox* list = ListOfItem(object, name)) return ReadListItem(*list, name);
   return AccessTo(object, name).read(object);

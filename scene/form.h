@@ -70,7 +70,6 @@ class Form : public Object, public Container {
 
   // Every object of the form in the order of its table, loaded array elements behind element 0.
   const std::vector<Object*>& objects() const { return objects_; }
-  const std::vector<ControlArrayBase*>& arrays() const { return arrays_; }
   // Null where there is none of that name; an element of an array is found by its index.
   Object* Find(std::string_view name, std::int16_t index = notInArray) const;
 
