@@ -8,34 +8,31 @@
 
 namespace quintara::desktop {
 
-// A scroll bar. Its widget counts from 0 at the top or left end, since it can't have the larger number there.
-class ScrollBarWidget final : public QScrollBar, public Control {
- public:
-  ScrollBarWidget(ScrollBar& bar, Qt::Orientation orientation, QWidget& parent, Session& session);
-
+// What widgets of both kinds of bar do. They count from 0 at the top or left end, since Qt's can't have the
+// larger number there.
+template <typename Bar, typename QtBar>
+class BarWidget : public QtBar, public Control {
  protected:
+  BarWidget(Bar& bar, Qt::Orientation orientation, QWidget& parent, Session& session);
+
   void ShowLooks() override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void HandIn(int position);
 
-  ScrollBar& bar_;
+  Bar& bar_;
+};
+
+class ScrollBarWidget final : public BarWidget<ScrollBar, QScrollBar> {
+ public:
+  ScrollBarWidget(ScrollBar& bar, Qt::Orientation orientation, QWidget& parent, Session& session);
 };
 
 // A slider with ticks below it.
-class SliderWidget final : public QSlider, public Control {
+class SliderWidget final : public BarWidget<Slider, QSlider> {
  public:
   SliderWidget(Slider& slider, QWidget& parent, Session& session);
-
- protected:
-  void ShowLooks() override;
-  void keyPressEvent(QKeyEvent* event) override;
-
- private:
-  void HandIn(int position);
-
-  Slider& slider_;
 };
 
 }  // namespace quintara::desktop
