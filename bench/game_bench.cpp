@@ -6,10 +6,10 @@
 
 #include <cmath>
 
-#include "bench/resident_memory.h"
 #include "bench/silent_platform.h"
 #include "program/program.h"
 #include "scene/input.h"
+#include "tests/support/resident_memory.h"
 
 namespace quintara {
 namespace {
@@ -21,10 +21,7 @@ struct Game {
 
   Game() { program.Start(); }
 
-  void Advance(std::int64_t milliseconds) {
-    Dispatcher& dispatcher = program.scene().dispatcher();
-    dispatcher.AdvanceTo(dispatcher.now() + milliseconds);
-  }
+  void Advance(std::int64_t milliseconds) { program.scene().dispatcher().Advance(milliseconds); }
   // Searches for a target at 22.052 km and opens its profile.
   void OpenProfile() {
     program.scene().chance().Queue(379.5 / 6000);

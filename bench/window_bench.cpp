@@ -17,14 +17,11 @@
 #include <algorithm>
 #include <cstdio>
 #include <ctime>
-#include <functional>
 #include <random>
-#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
-#include "bench/resident_memory.h"
 #include "desktop/application.h"
 #include "desktop/form_window.h"
 #include "desktop/session.h"
@@ -32,6 +29,7 @@
 #include "desktop/units.h"
 #include "program/program.h"
 #include "scene/input.h"
+#include "tests/support/resident_memory.h"
 
 namespace quintara::desktop {
 namespace {
@@ -59,8 +57,7 @@ struct Game {
     session.Run([&] { UserClicks(object); });
   }
   void Advance(std::int64_t milliseconds) {
-    Dispatcher& dispatcher = program.scene().dispatcher();
-    session.Run([&] { dispatcher.AdvanceTo(dispatcher.now() + milliseconds); });
+    session.Run([&] { program.scene().dispatcher().Advance(milliseconds); });
     QCoreApplication::processEvents();
     // Windows that were closed; only a loop of the application's own does away with them by itself.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

@@ -7,8 +7,7 @@
 #include <string_view>
 
 #include "desktop/zoom.h"
-#include "scene/colour.h"
-#include "scene/looks.h"
+#include "scene/form.h"
 
 class QWidget;
 
@@ -19,6 +18,11 @@ void SetUpAppearance();
 
 QColor ToQColor(Colour colour);
 QFont ToQFont(const Font& font, const Zoom& zoom = Zoom());
+// The font of a control: its form's, unless it names one.
+template <typename AnyControl>
+QFont FontOf(const AnyControl& control, const Zoom& zoom = Zoom()) {
+  return ToQFont(control.looks().font.value_or(control.form().looks().font), zoom);
+}
 // The weight of a font's letters; that of some fonts lies in their name.
 QFont::Weight WeightOf(std::string_view fontName, bool bold);
 // The size of letters in pixels; forms were laid out for 96 dots to the inch.

@@ -43,7 +43,7 @@ ButtonWidget::ButtonWidget(Button& button, QWidget& parent, Session& session)
 void ButtonWidget::ShowLooks() {
   const int edges = zoom()(6);
   const QString caption = ToQString(button_.Caption.Get());
-  const QFont font = ToQFont(button_.looks().font.value_or(button_.form().looks().font), zoom());
+  const QFont font = FontOf(button_, zoom());
   setFont(FittingFont(font, caption, width() - edges));
   setText(caption);
 }
@@ -101,7 +101,7 @@ PanelWidget::PanelWidget(SSPanel& panel, QWidget& parent, Session& session)
 }
 
 void PanelWidget::ShowLooks() {
-  setFont(ToQFont(panel_.looks().font.value_or(panel_.form().looks().font), zoom()));
+  setFont(FontOf(panel_, zoom()));
   setText(ToQString(panel_.Caption.Get()));
 }
 

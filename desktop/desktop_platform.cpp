@@ -12,7 +12,6 @@
 #include "desktop/appearance.h"
 #include "desktop/form_window.h"
 #include "desktop/screens.h"
-#include "desktop/session.h"
 #include "desktop/units.h"
 #include "scene/form.h"
 #include "scene/menu.h"
@@ -48,10 +47,10 @@ DesktopPlatform::DesktopPlatform(const ProgramFolders& folders)
 }
 
 double DesktopPlatform::ScreenWidth() {
-  return ToTwips(MainScreenSize().width()) / ZoomOf(session_).factor();
+  return ToTwips(MainScreenSize().width()) / ZoomOf(session()).factor();
 }
 double DesktopPlatform::ScreenHeight() {
-  return ToTwips(MainScreenSize().height()) / ZoomOf(session_).factor();
+  return ToTwips(MainScreenSize().height()) / ZoomOf(session()).factor();
 }
 
 std::uint64_t DesktopPlatform::Seed() {
@@ -69,27 +68,24 @@ void DesktopPlatform::Beep() {
 
 std::int32_t DesktopPlatform::ShowMessageBox(const std::string& text, std::int32_t style,
                                              const std::string& title) {
-  constexpr std::int32_t buttonsMask = 0x0F, yesAndNo = 4, iconMask = 0xF0, exclamation = 48;
-  constexpr std::int32_t chosenOk = 1, chosenYes = 6, chosenNo = 7;
-  const bool asks = (style & buttonsMask) == yesAndNo;
+  const bool asks = message_box::AsksYesOrNo(style);
   // A box goes with the window that it belongs to.
-  QMessageBox box(session_ != nullptr ? session_->ActiveWindow() : nullptr);
-  box.setFont(ToQFont(Font{}, ZoomOf(session_)));
+  QMessageBox box(session() != nullptr ? session()->ActiveWindow() : nullptr);
+  box.setFont(ToQFont(Font{}, ZoomOf(session())));
   box.setWindowTitle(ToQString(title));
   box.setTextFormat(Qt::PlainText);
   box.setText(ToQString(text));
   box.setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No
                               : QMessageBox::StandardButtons(QMessageBox::Ok));
-  if ((style & iconMask) == exclamation) box.setIcon(QMessageBox::Warning);
-  const Waiting waiting(session_);
+  if (message_box::HasExclamation(style)) box.setIcon(QMessageBox::Warning);
+  const Waiting waiting(session());
   const int chosen = box.exec();
-  if (!asks) return chosenOk;
-  return chosen == QMessageBox::Yes ? chosenYes : chosenNo;
+  return chosen == QMessageBox::Yes ? message_box::yes : message_box::SafeAnswer(style);
 }
 
 Menu* DesktopPlatform::RunPopupMenu(Form& form, Menu& menu, double x, double y) {
-  const Waiting waiting(session_);
-  FormWindow* window = session_ != nullptr ? session_->WindowOf(form) : nullptr;
+  const Waiting waiting(session());
+  FormWindow* window = session() != nullptr ? session()->WindowOf(form) : nullptr;
   if (window == nullptr) return nullptr;
   QMenu popup(window);
   popup.setFont(ToQFont(Font{}, window->zoom()));
@@ -106,16 +102,6 @@ Menu* DesktopPlatform::RunPopupMenu(Form& form, Menu& menu, double x, double y) 
 
 void DesktopPlatform::PutOnClipboard(const std::string& text) {
   QGuiApplication::clipboard()->setText(ToQString(text));
-}
-
-void DesktopPlatform::FormShown(Form& form) {
-  if (session_ != nullptr) session_->FormShown(form);
-}
-void DesktopPlatform::FormUnloaded(Form& form) {
-  if (session_ != nullptr) session_->FormUnloaded(form);
-}
-void DesktopPlatform::ProgramEnded() {
-  if (session_ != nullptr) session_->ProgramEnded();
 }
 
 }  // namespace quintara::desktop

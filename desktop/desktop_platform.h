@@ -7,22 +7,18 @@
 
 #include "desktop/overlay_file_system.h"
 #include "desktop/program_folders.h"
+#include "desktop/session_platform.h"
 #include "desktop/sound_player.h"
 #include "scene/platform.h"
 
 namespace quintara::desktop {
 
-class Session;
-
 // What the Scene asks of the world, done by Qt.
-class DesktopPlatform final : public Platform {
+class DesktopPlatform final : public SessionPlatform<Platform> {
  public:
   explicit DesktopPlatform(const ProgramFolders& folders);
   explicit DesktopPlatform(const QString& programFolder)
       : DesktopPlatform(ProgramFolders{programFolder, programFolder}) {}
-
-  // Where forms are shown from now on. There is none yet while the program is built, nor any more at its end.
-  void Attach(Session* session) { session_ = session; }
 
   // False: a sound server that does not answer still holds up the sounds.
   bool EndSounds() { return sounds_.End(); }
@@ -40,15 +36,10 @@ class DesktopPlatform final : public Platform {
   Menu* RunPopupMenu(Form& form, Menu& menu, double x, double y) override;
   void PutOnClipboard(const std::string& text) override;
 
-  void FormShown(Form& form) override;
-  void FormUnloaded(Form& form) override;
-  void ProgramEnded() override;
-
  private:
   QString programFolder_;
   OverlayFileSystem disk_;
   SoundPlayer sounds_;
-  Session* session_ = nullptr;
 };
 
 }  // namespace quintara::desktop

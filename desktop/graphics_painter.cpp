@@ -97,8 +97,7 @@ void Paint(QPainter& painter, const Label& label) {
   if (looks.framed) PaintFrame(painter, place);
 
   const QRect inner = looks.framed ? place.adjusted(2, 1, -2, -1) : place;
-  const FittedCaption caption = Fit(ToQString(label.Caption.Get()),
-                                    ToQFont(looks.font.value_or(label.form().looks().font)), inner.size());
+  const FittedCaption caption = Fit(ToQString(label.Caption.Get()), FontOf(label), inner.size());
   const QFontMetricsF metrics(caption.font);
   painter.setFont(caption.font);
   painter.setPen(ToQColor(label.ForeColor));

@@ -31,13 +31,6 @@ QAbstractSlider::SliderAction ActionOf(int key) {
   }
 }
 
-Form* FormNamed(std::string_view name, const Scene& scene) {
-  for (Form* form : scene.forms()) {
-    if (form->name() == name) return form;
-  }
-  return nullptr;
-}
-
 }  // namespace
 
 bool PressesButton(const QKeyEvent& event) {
@@ -70,7 +63,7 @@ Object* ObjectForKey(const Form& form, const QKeyEvent& event) {
     if (row.keys.empty() || (row.form != form.name() && !inAllWindows)) continue;
     if (!QKeySequence::listFromString(ToQString(row.keys), QKeySequence::PortableText).contains(pressed))
       continue;
-    const Form* owner = FormNamed(row.form, form.scene());
+    const Form* owner = form.scene().FindForm(row.form);
     if (owner != nullptr) return owner->Find(row.control);
   }
   return nullptr;

@@ -50,7 +50,7 @@ ListWidget::ListWidget(ListBox& box, QWidget& parent, Session& session)
 }
 
 void ListWidget::ShowLooks() {
-  setFont(ToQFont(box_.looks().font.value_or(box_.form().looks().font), zoom()));
+  setFont(FontOf(box_, zoom()));
   const int scrolled = verticalScrollBar()->value();
   items_->Renew();
   verticalScrollBar()->setValue(scrolled);

@@ -42,7 +42,7 @@ void Session::Run(const std::function<void()>& input) {
 
 void Session::Tick() {
   CatchUp();
-  RunGuarded([this] { scene_.dispatcher().AdvanceTo(scene_.dispatcher().now()); });
+  RunGuarded([this] { scene_.dispatcher().Advance(0); });
 }
 
 void Session::RunGuarded(const std::function<void()>& work) {

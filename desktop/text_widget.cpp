@@ -47,7 +47,7 @@ TextWidget::TextWidget(TextBox& box, QWidget& parent, Session& session)
 }
 
 void TextWidget::ShowLooks() {
-  setFont(ToQFont(box_.looks().font.value_or(box_.form().looks().font), zoom()));
+  setFont(FontOf(box_, zoom()));
   const QString scene = ToQString(box_.Text.Get());
   if (!typing_ && text() != scene) setText(scene);
 }

@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "desktop/session.h"
-
 namespace quintara::desktop {
 namespace {
 
@@ -39,23 +37,12 @@ bool TourDisk::Replace(const std::filesystem::path& fresh, const std::filesystem
 }
 
 std::int32_t TourPlatform::ShowMessageBox(const std::string& text, std::int32_t style, const std::string&) {
-  constexpr std::int32_t buttonsMask = 0x0F, yesAndNo = 4, chosenOk = 1, chosenNo = 7;
   boxText_ = text;
-  return (style & buttonsMask) == yesAndNo ? chosenNo : chosenOk;
+  return message_box::SafeAnswer(style);
 }
 
 Menu* TourPlatform::RunPopupMenu(Form&, Menu&, double, double) {
   return std::exchange(chosen_, nullptr);
-}
-
-void TourPlatform::FormShown(Form& form) {
-  if (session_ != nullptr) session_->FormShown(form);
-}
-void TourPlatform::FormUnloaded(Form& form) {
-  if (session_ != nullptr) session_->FormUnloaded(form);
-}
-void TourPlatform::ProgramEnded() {
-  if (session_ != nullptr) session_->ProgramEnded();
 }
 
 }  // namespace quintara::desktop

@@ -6,12 +6,11 @@
 #include <map>
 #include <string>
 
+#include "desktop/session_platform.h"
 #include "files/file_system.h"
 #include "scene/quiet_platform.h"
 
 namespace quintara::desktop {
-
-class Session;
 
 // The files of this machine, of which none is ever changed: what the program writes is kept in memory and
 // read from there. What it writes in a player's game is not read from the disk either.
@@ -31,11 +30,10 @@ class TourDisk final : public FileSystem {
 
 // A world for a game that plays by itself: the windows are real, but nothing waits for a user, nothing
 // sounds, and no two runs differ.
-class TourPlatform final : public QuietPlatform {
+class TourPlatform final : public SessionPlatform<QuietPlatform> {
  public:
   explicit TourPlatform(const QString& programFolder) : programFolder_(programFolder.toStdString()) {}
 
-  void Attach(Session* session) { session_ = session; }
   // What the next popup menu answers.
   void Choose(Menu& item) { chosen_ = &item; }
   // What a message box said; empty while there was none.
@@ -45,14 +43,10 @@ class TourPlatform final : public QuietPlatform {
   FileSystem& Disk() override { return disk_; }
   std::int32_t ShowMessageBox(const std::string& text, std::int32_t style, const std::string& title) override;
   Menu* RunPopupMenu(Form& form, Menu& menu, double x, double y) override;
-  void FormShown(Form& form) override;
-  void FormUnloaded(Form& form) override;
-  void ProgramEnded() override;
 
  private:
   std::string programFolder_;
   TourDisk disk_;
-  Session* session_ = nullptr;
   Menu* chosen_ = nullptr;
   std::string boxText_;
 };

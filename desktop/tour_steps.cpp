@@ -79,8 +79,7 @@ void Tour::Type(TextBox& box, const QString& text) {
 }
 
 void Tour::Advance(std::int64_t milliseconds) {
-  Dispatcher& dispatcher = program_.scene().dispatcher();
-  Run([&] { dispatcher.AdvanceTo(dispatcher.now() + milliseconds); });
+  Run([&] { program_.scene().dispatcher().Advance(milliseconds); });
 }
 
 void Tour::AdvanceUntil(const std::function<bool()>& reached) {
@@ -88,7 +87,7 @@ void Tour::AdvanceUntil(const std::function<bool()>& reached) {
   constexpr std::int64_t most = 60'000;
   const std::int64_t end = dispatcher.now() + most;
   Run([&] {
-    while (!reached() && dispatcher.now() < end) dispatcher.AdvanceTo(dispatcher.now() + 1);
+    while (!reached() && dispatcher.now() < end) dispatcher.Advance(1);
   });
   if (!reached()) throw std::runtime_error("the game waited in vain for what comes next");
 }

@@ -2,20 +2,15 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstdlib>
+
+#include "files/little_endian.h"
 
 namespace quintara {
 namespace {
 
 std::filesystem::path PathOfText(std::string_view utf8) {
   return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
-}
-
-// A number of four bytes, the lowest first.
-std::int64_t LittleEndian(std::string_view bytes, std::size_t at) {
-  std::uint32_t number = 0;
-  for (std::size_t i = 0; i < 4; ++i)
-    number |= std::uint32_t{static_cast<unsigned char>(bytes[at + i])} << (8 * i);
-  return static_cast<std::int32_t>(number);
 }
 
 constexpr int mostNames = 10'000;
@@ -87,8 +82,11 @@ bool Files::IsBitmap(std::string_view joined) const {
   constexpr std::int64_t longestSide = 4096;
   const auto bytes = disk_.Read(Locate(joined).path, 0, header);
   if (!bytes || bytes->size() < header || !bytes->starts_with("BM")) return false;
-  const std::int64_t width = LittleEndian(*bytes, 18);
-  const std::int64_t height = std::abs(LittleEndian(*bytes, 22));
+  const auto side = [&](std::size_t at) -> std::int64_t {
+    return static_cast<std::int32_t>(LittleEndian(*bytes, at, 4));
+  };
+  const std::int64_t width = side(18);
+  const std::int64_t height = std::abs(side(22));
   return width > 0 && width <= longestSide && height > 0 && height <= longestSide;
 }
 

@@ -3,21 +3,16 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "files/little_endian.h"
+
 namespace quintara {
 namespace {
-
-// A number of so many bytes, the lowest first.
-std::uint32_t Number(std::string_view bytes, std::size_t at, std::size_t count) {
-  std::uint32_t number = 0;
-  for (std::size_t i = count; i-- > 0;) number = number << 8 | static_cast<unsigned char>(bytes[at + i]);
-  return number;
-}
 
 // The content of the first chunk of that name, cut to what the file holds of it.
 std::string_view Chunk(std::string_view file, std::string_view name) {
   constexpr std::size_t head = 8;
   for (std::size_t at = 12; at + head <= file.size();) {
-    const std::size_t size = Number(file, at + 4, 4);
+    const std::size_t size = LittleEndian(file, at + 4, 4);
     if (file.substr(at, 4) == name) return file.substr(at + head, size);
     if (size > file.size() - at - head) break;
     at += head + size + size % 2;  // chunks begin at even places
@@ -28,9 +23,9 @@ std::string_view Chunk(std::string_view file, std::string_view name) {
 std::optional<Wave> ReadFormat(std::string_view format) {
   constexpr std::size_t shortest = 16;
   constexpr std::uint32_t plainSamples = 1, fewest = 1000, most = 192'000;
-  if (format.size() < shortest || Number(format, 0, 2) != plainSamples) return std::nullopt;
-  const std::uint32_t channels = Number(format, 2, 2), rate = Number(format, 4, 4),
-                      bits = Number(format, 14, 2);
+  if (format.size() < shortest || LittleEndian(format, 0, 2) != plainSamples) return std::nullopt;
+  const std::uint32_t channels = LittleEndian(format, 2, 2), rate = LittleEndian(format, 4, 4),
+                      bits = LittleEndian(format, 14, 2);
   if (channels < 1 || channels > 2 || rate < fewest || rate > most || (bits != 8 && bits != 16))
     return std::nullopt;
   return Wave{static_cast<int>(rate), static_cast<int>(channels), static_cast<int>(bits), {}};

@@ -26,6 +26,7 @@ std::vector<Object*> Controls(const Scene& scene) {
 
 void Player::Act() {
   QuintaraForm& form = program_.quintara();
+  Dispatcher& dispatcher = program_.scene().dispatcher();
   const std::uint8_t action = bytes_.Take();
   switch (action) {
     case 'S': UserClicks(form.cmdSearch); break;
@@ -37,8 +38,8 @@ void Player::Act() {
     case 'V': Lay(form.VScroll2); break;
     case 'T': Lay(form.HScroll1); break;
     case 'L': WatchToTheEnd(); break;
-    case 'W': Advance(bytes_.Take()); break;
-    case 'P': program_.scene().dispatcher().PassTime(bytes_.Take()); break;
+    case 'W': dispatcher.Advance(bytes_.Take()); break;
+    case 'P': dispatcher.PassTime(bytes_.Take()); break;
     case 'C': CloseWindow(); break;
     case 'Q': program_.scene().chance().Queue(bytes_.Take() / 256.0); break;
     case 'B': platform_.boxAnswer = bytes_.Take() % 8; break;
@@ -87,11 +88,6 @@ void Player::Use(Object& object) {
       [](Object& other) { UserClicks(other); });
 }
 
-void Player::Advance(std::int64_t milliseconds) {
-  Dispatcher& dispatcher = program_.scene().dispatcher();
-  dispatcher.AdvanceTo(dispatcher.now() + milliseconds);
-}
-
 // Until a target is locked on, or the shell has come down and its fragments too.
 void Player::WatchToTheEnd() {
   constexpr int longest = 13'000, glance = 500;
@@ -100,7 +96,8 @@ void Player::WatchToTheEnd() {
     return form.tmrBounce.Enabled || form.tmrBounce2.Enabled || form.tmrShell.Enabled ||
            form.tmrExplode.Enabled;
   };
-  for (int watched = 0; watched < longest && isMoving(); watched += glance) Advance(glance);
+  for (int watched = 0; watched < longest && isMoving(); watched += glance)
+    program_.scene().dispatcher().Advance(glance);
 }
 
 void Player::CloseWindow() {

@@ -20,7 +20,6 @@ class Player {
  private:
   void ActInWindow(std::uint8_t which);
   void Use(Object& object);
-  void Advance(std::int64_t milliseconds);
   void WatchToTheEnd();
   void CloseWindow();
   void Lay(ScrollBar& bar);

@@ -131,8 +131,7 @@ InputResult Close(Host& host, const Arguments& arguments) {
 }
 
 InputResult Advance(Host& host, const Arguments& arguments) {
-  Dispatcher& dispatcher = host.scene.dispatcher();
-  dispatcher.AdvanceTo(dispatcher.now() + CountIn(arguments[0]));
+  host.scene.dispatcher().Advance(CountIn(arguments[0]));
   return InputResult::Done;
 }
 

@@ -15,12 +15,6 @@ std::string WithoutTrailingSeparator(const std::filesystem::path& folder) {
   return std::string(text.begin(), text.end());
 }
 
-// A box that asks Yes or No is refused, so that a script that forgot it destroys nothing.
-std::int32_t DefaultAnswer(std::int32_t style) {
-  constexpr std::int32_t buttons = 0xF, yesAndNo = 4, no = 7, ok = 1;
-  return (style & buttons) == yesAndNo ? no : ok;
-}
-
 Menu* ItemToChoose(const Menu& menu, const std::string& name) {
   for (Menu* item : menu.items()) {
     if (item->CanBeChosen() && FullName(*item) == name) return item;
@@ -58,7 +52,8 @@ void HostPlatform::Beep() {
 
 std::int32_t HostPlatform::ShowMessageBox(const std::string& text, std::int32_t style,
                                           const std::string& title) {
-  const std::int32_t result = TakeAnswer(boxAnswers_, DefaultAnswer(style));
+  // A script that forgot a box destroys nothing.
+  const std::int32_t result = TakeAnswer(boxAnswers_, message_box::SafeAnswer(style));
   out_ << "! box " << Quoted(text) << ' ' << Integer32::Write(style) << ' ' << Quoted(title) << " -> "
        << Integer32::Write(result) << '\n';
   return result;

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "scene/platform.h"
+#include "scene/scale.h"
 
 namespace quintara::host {
 
@@ -25,8 +26,8 @@ class HostPlatform : public Platform {
 
   std::string ProgramFolder() override { return folder_; }
   FileSystem& Disk() override { return disk_; }
-  double ScreenWidth() override { return 1920 * 15; }
-  double ScreenHeight() override { return 1080 * 15; }
+  double ScreenWidth() override { return 1920 * twipsPerPixel; }
+  double ScreenHeight() override { return 1080 * twipsPerPixel; }
   std::uint64_t Seed() override;
   void PlaySound(const DataFile& sound) override;
   void Beep() override;

@@ -16,10 +16,9 @@ bool HasItem(const Menu& menu, std::string_view name) {
 }  // namespace
 
 Form& FindForm(const Scene& scene, std::string_view name) {
-  for (Form* form : scene.forms()) {
-    if (form->name() == name) return *form;
-  }
-  throw Refusal("there is no form " + Quoted(name));
+  Form* form = scene.FindForm(name);
+  if (form == nullptr) throw Refusal("there is no form " + Quoted(name));
+  return *form;
 }
 
 Object& FindObject(const Scene& scene, std::string_view path) {

@@ -26,6 +26,9 @@ class Dispatcher {
   // runs.
   void AdvanceTo(std::int64_t time);
 
+  // The same for so many milliseconds from now.
+  void Advance(std::int64_t milliseconds) { AdvanceTo(now_ + milliseconds); }
+
   // Lets time go by in which nothing ticks: a handler took long, or the machine was held up. Of the ticks
   // that a timer lost that way one comes late; the others are not made up, and its rhythm stays.
   void PassTime(std::int64_t milliseconds);

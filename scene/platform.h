@@ -11,6 +11,24 @@ namespace quintara {
 class Form;
 class Menu;
 
+// The numbers of a message box: what its style adds up, and the buttons that it answers with.
+namespace message_box {
+inline constexpr std::int32_t yesAndNo = 4, exclamation = 48;
+inline constexpr std::int32_t ok = 1, yes = 6, no = 7;
+
+// Whether it has the buttons Yes and No; any other has OK alone.
+constexpr bool AsksYesOrNo(std::int32_t style) {
+  return (style & 0x0F) == yesAndNo;
+}
+constexpr bool HasExclamation(std::int32_t style) {
+  return (style & 0xF0) == exclamation;
+}
+// The button that changes nothing.
+constexpr std::int32_t SafeAnswer(std::int32_t style) {
+  return AsksYesOrNo(style) ? no : ok;
+}
+}  // namespace message_box
+
 // What the program asks of the world outside: windows, sound, clipboard, clock and files. The desktop, the
 // headless host and the tests each give their own.
 class Platform {
@@ -33,8 +51,7 @@ class Platform {
   virtual void PlaySound(const DataFile& sound) = 0;
   virtual void Beep() = 0;
 
-  // Shows a modal box and returns the number of the button chosen (1 OK, 6 Yes, 7 No). `style` adds up the
-  // buttons (0 OK, 4 Yes and No) and the icon (48 an exclamation mark).
+  // Shows a modal box and returns the number of the button chosen.
   virtual std::int32_t ShowMessageBox(const std::string& text, std::int32_t style,
                                       const std::string& title) = 0;
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "scene/platform.h"
+#include "scene/scale.h"
 
 namespace quintara {
 
@@ -8,12 +9,14 @@ namespace quintara {
 // depends on its input alone. What a platform has of its own it puts over this.
 class QuietPlatform : public Platform {
  public:
-  double ScreenWidth() override { return 28800; }
-  double ScreenHeight() override { return 16200; }
+  double ScreenWidth() override { return 1920 * twipsPerPixel; }
+  double ScreenHeight() override { return 1080 * twipsPerPixel; }
   std::uint64_t Seed() override { return ++seed_; }
   void PlaySound(const DataFile&) override {}
   void Beep() override {}
-  std::int32_t ShowMessageBox(const std::string&, std::int32_t, const std::string&) override { return 1; }
+  std::int32_t ShowMessageBox(const std::string&, std::int32_t, const std::string&) override {
+    return message_box::ok;
+  }
   Menu* RunPopupMenu(Form&, Menu&, double, double) override { return nullptr; }
   void PutOnClipboard(const std::string&) override {}
   void FormShown(Form&) override {}

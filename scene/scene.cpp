@@ -1,5 +1,7 @@
 #include "scene/scene.h"
 
+#include <algorithm>
+
 #include "scene/form.h"
 
 namespace quintara {
@@ -7,6 +9,12 @@ namespace quintara {
 Scene::Scene(Platform& platform)
     : platform_(platform), appPath_(platform.ProgramFolder()), files_(platform.Disk(), appPath_) {
   chance_.Randomize(platform.Seed());
+}
+
+Form* Scene::FindForm(std::string_view name) const {
+  const auto isIt = [&](const Form* form) { return form->name() == name; };
+  const auto found = std::find_if(forms_.begin(), forms_.end(), isIt);
+  return found == forms_.end() ? nullptr : *found;
 }
 
 void Scene::End() {
@@ -25,8 +33,7 @@ std::int32_t Scene::MsgBox(const std::string& text, std::int32_t buttons, const 
 }
 
 void Scene::TellFault(const std::string& text) {
-  constexpr std::int32_t okWithExclamation = 48;
-  MsgBox(text, okWithExclamation, "Quintara");
+  MsgBox(text, message_box::exclamation, "Quintara");
 }
 
 void Scene::LoadPictureInto(PictureBox& box, std::string_view path) const {

@@ -29,6 +29,8 @@ class Scene {
   // All forms of the program, and those loaded now in the order of their loading.
   const std::vector<Form*>& forms() const { return forms_; }
   const std::vector<Form*>& loadedForms() const { return loadedForms_; }
+  // Null where there is none of that name.
+  Form* FindForm(std::string_view name) const;
 
   // Stops the program at once. No QueryUnload runs; all forms vanish.
   void End();

@@ -74,7 +74,7 @@ class RandomUserTest : public GameWindows {
   void PlayOn() {
     session.Run([this] {
       Dispatcher& dispatcher = program.scene().dispatcher();
-      dispatcher.AdvanceTo(dispatcher.now() + Any(3000));
+      dispatcher.Advance(Any(3000));
       UserClicks(main.cmdSearch);
       UserClicks(main.cmdMagnify);
       UserClicks(main.Image7);

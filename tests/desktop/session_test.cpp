@@ -5,7 +5,6 @@
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 
-#include <stdexcept>
 
 #include "tests/desktop/when_open.h"
 #include "tests/desktop/window_form.h"

@@ -7,7 +7,6 @@
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QStyle>
 
-#include <algorithm>
 #include <cstdlib>
 #include <utility>
 

@@ -24,9 +24,7 @@ class DemonstrationTest : public ::testing::Test {
     platform.log.clear();
   }
   void Click(Object& object) { ASSERT_EQ(UserClicks(object), InputResult::Done) << FullName(object); }
-  void Advance(std::int64_t milliseconds) {
-    scene.dispatcher().AdvanceTo(scene.dispatcher().now() + milliseconds);
-  }
+  void Advance(std::int64_t milliseconds) { scene.dispatcher().Advance(milliseconds); }
   // Since the last call; a demonstration does nothing else to the outside while it runs.
   std::size_t Beeps() {
     const std::size_t beeps = platform.log.size();

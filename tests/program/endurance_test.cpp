@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <map>
 #include <random>
 
@@ -10,11 +9,11 @@
 #include "fuzz/player.h"
 #include "fuzz/scene_order.h"
 #include "scene/input.h"
+#include "scene/visit.h"
+#include "tests/support/resident_memory.h"
 
 #ifdef SANITIZED
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
-#elif defined(__linux__)
-#include <unistd.h>
 #endif
 
 namespace quintara::fuzz {
@@ -24,12 +23,8 @@ namespace {
 std::size_t MemoryInUse() {
 #ifdef SANITIZED
   return __sanitizer_get_current_allocated_bytes();
-#elif defined(__linux__)
-  std::size_t all = 0, resident = 0;
-  std::ifstream("/proc/self/statm") >> all >> resident;
-  return resident * static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
 #else
-  return 0;
+  return ResidentMemory();
 #endif
 }
 
@@ -37,11 +32,15 @@ std::size_t MemoryInUse() {
 std::vector<double> PlacesOf(const Form& form) {
   std::vector<double> places = {form.Left.Get(), form.Top.Get(), form.Width.Get(), form.Height.Get()};
   for (const Object* object : form.objects()) {
-    if (const auto* line = dynamic_cast<const Line*>(object)) {
-      places.insert(places.end(), {line->X1, line->Y1, line->X2, line->Y2});
-    } else if (const auto* box = dynamic_cast<const Box*>(object)) {
-      places.insert(places.end(), {box->Left, box->Top, box->Width, box->Height});
-    }
+    Visit(
+        *object,
+        [&](const Line& line) {
+          places.insert(places.end(), {line.X1, line.Y1, line.X2, line.Y2});
+        },
+        [&](const Box& box) {
+          places.insert(places.end(), {box.Left, box.Top, box.Width, box.Height});
+        },
+        [](const Object&) {});
   }
   return places;
 }
@@ -66,7 +65,7 @@ class Day {
     Dispatcher& dispatcher = program_.scene().dispatcher();
     for (int actions = 1; dispatcher.now() < time; ++actions) {
       Act();
-      dispatcher.AdvanceTo(dispatcher.now() + 20 * Below(50));
+      dispatcher.Advance(20 * Below(50));
       ASSERT_FALSE(program_.scene().ended());
       if (actions % 16 != 0) continue;
       order_.RequireHolds();

@@ -23,9 +23,7 @@ struct RunningGame {
     program.Start();
     platform.log.clear();
   }
-  void Advance(std::int64_t milliseconds) {
-    program.scene().dispatcher().AdvanceTo(program.scene().dispatcher().now() + milliseconds);
-  }
+  void Advance(std::int64_t milliseconds) { program.scene().dispatcher().Advance(milliseconds); }
   void Click(Object& object) { ASSERT_EQ(UserClicks(object), InputResult::Done) << FullName(object); }
 
   // Searches until the target that comes down past `altitude` (1 to 6000 twips) is locked on, and opens the

@@ -10,12 +10,12 @@
 
 #include "scene/form.h"
 #include "scene/menu.h"
-#include "scene/platform.h"
+#include "scene/quiet_platform.h"
 
 namespace quintara {
 
 // A world outside that records what the program does to it, and answers from queues.
-class RecordingPlatform : public Platform {
+class RecordingPlatform : public QuietPlatform {
  public:
   explicit RecordingPlatform(std::string folder = "/nowhere") : folder_(std::move(folder)) {}
 
@@ -26,9 +26,6 @@ class RecordingPlatform : public Platform {
 
   std::string ProgramFolder() override { return folder_; }
   FileSystem& Disk() override { return *disk; }
-  double ScreenWidth() override { return 28800; }
-  double ScreenHeight() override { return 16200; }
-  std::uint64_t Seed() override { return ++seed_; }
   void PlaySound(const DataFile& sound) override { log.push_back("sound " + sound.name); }
   void Beep() override { log.push_back("beep"); }
 
@@ -56,7 +53,6 @@ class RecordingPlatform : public Platform {
  private:
   DiskFileSystem realDisk_;
   std::string folder_;
-  std::uint64_t seed_ = 0;
 };
 
 inline std::string BytesOf(const std::filesystem::path& path) {

@@ -6,7 +6,6 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "tests/support/rich_text_faults.h"
 #include "text/utf8.h"
