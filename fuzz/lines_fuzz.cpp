@@ -40,7 +40,7 @@ class Window {
     MastersForm& form = program_.masters();
     form.Show();
     Require(form.List1.items() == lines, "the window shows the lines");
-    program_.quintara().Label17.Caption = "45";
+    program_.quintara().score.Caption = "45";
     form.Picture1.Visible = true;
     for (const char letter : {'A', 'd', 'a', '\r'}) UserTypes(form.Text1, letter);
     Lines longer = lines;

@@ -40,21 +40,21 @@ void QuintaraForm::TestForImpact() {
 }
 
 bool QuintaraForm::StrikesFoot() {
-  const Single centre = Shape1(0).Left + Shape1(0).Width / 2;
+  const Single centre = shells(0).Left + shells(0).Width / 2;
   const Single lowerEdge =
-      Shape1(0).Top + Shape1(0).Width;  // by the Width, as the reach of the foot was tuned
-  // Line35.X2 counts in Picture11 and is compared as it stands, without Picture11.Left: the foot reaches to
+      shells(0).Top + shells(0).Width;  // by the Width, as the reach of the foot was tuned
+  // slope6.X2 counts in mountain and is compared as it stands, without mountain.Left: the foot reaches to
   // 3460.
-  return centre > Line13.X1 && centre < Line35.X2 && lowerEdge > Line13.Y1;
+  return centre > mountainFoot.X1 && centre < slope6.X2 && lowerEdge > mountainFoot.Y1;
 }
 
 bool QuintaraForm::StrikesOutline() {
   // The run of a slope is meant to be the next segment's; only the last one has its own. The fans lean by it.
-  const OutlineSegment outline[] = {{Line27, Line31, true},  {Line31, Line32, true},
-                                    {Line32, Line33, true},  {Line33, Line34, false},
-                                    {Line34, Line35, false}, {Line35, Line35, false}};
-  const Single x = Shape1(1).Left + Shape1(1).Width / 2;
-  const Single y = Shape1(1).Top + Shape1(1).Width / 2;
+  const OutlineSegment outline[] = {{slope1, slope2, true},  {slope2, slope3, true},
+                                    {slope3, slope4, true},  {slope4, slope5, false},
+                                    {slope5, slope6, false}, {slope6, slope6, false}};
+  const Single x = shells(1).Left + shells(1).Width / 2;
+  const Single y = shells(1).Top + shells(1).Width / 2;
   for (const OutlineSegment& segment : outline) {
     if (!LiesUnder(segment, x, y)) continue;
     mImpactSlope = Atn((segment.line.Y1 - segment.line.Y2) / (segment.run.X2 - segment.run.X1));
@@ -69,39 +69,39 @@ bool QuintaraForm::StrikesTarget() {
 }
 
 void QuintaraForm::HitTarget() {
-  Label23.Visible = false;
+  bestScore.Visible = false;
   if (mDragOn == 0) {
-    Label17.Caption = ToText(Val(Label17.Caption) + 5);
+    score.Caption = ToText(Val(score.Caption) + 5);
   } else {
-    Label17.Caption = ToText(Val(Label17.Caption) + 10);
+    score.Caption = ToText(Val(score.Caption) + 10);
     mDragOn = 0;
   }
 
-  if (Label25.Caption == "5") {
+  if (shotsFired.Caption == "5") {
     ShowBonusHeader(bonusNextStep);
-    cmdAdvanced.Caption = "OFF";
-    cmdAdvanced.Enabled = false;
-    Label15.Caption = "0";
+    dragButton.Caption = "OFF";
+    dragButton.Enabled = false;
+    dragConstant.Caption = "0";
     mBonusShot = 1;
   } else {
     ShowNormalHeader();
   }
-  if (Val(Label25.Caption) == 6 && Val(Label17.Caption) >= 35 && mBonusShot == 1) OfferListOfMasters();
+  if (Val(shotsFired.Caption) == 6 && Val(score.Caption) >= 35 && mBonusShot == 1) OfferListOfMasters();
 
-  Line8.Visible = false;
-  Line9.Visible = false;
-  Label11.Visible = false;
-  Image5.Visible = false;
-  Image7.Enabled = false;
-  Image8.Visible = true;
-  Image8.Left = Image5.Left;
+  rangeBar.Visible = false;
+  heightBar.Visible = false;
+  targetOnScale.Visible = false;
+  targetPicture.Visible = false;
+  fireButton.Enabled = false;
+  flames.Visible = true;
+  flames.Left = targetPicture.Left;
   shared.PlayUnlessSoundIsOff(scene(), "bombex~2.wav");
   ThrowFragments();
 
-  Timer1.Enabled = true;
-  Timer1.Interval = 400;
+  flashTimer.Enabled = true;
+  flashTimer.Interval = 400;
   StopFlight();
-  tmrExplode.Enabled = true;
+  fragmentTimer.Enabled = true;
 }
 
 void QuintaraForm::OfferListOfMasters() {

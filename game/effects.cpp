@@ -21,21 +21,24 @@ constexpr FragmentRule fragmentRules[] = {{260, 0.1}, {300, 0.1}, {280, -0.1}, {
 // The rays stand on the slope struck: its normal, and the normal turned by 45 degrees either way.
 void QuintaraForm::BurstOnProfile() {
   const double alpha = mImpactSlope;
-  const Ray normal{Line28, -rayLength * Cos(3.1416 / 2 - alpha), -rayLength * Sin(3.1416 / 2 - alpha)};
-  const Ray toTheRight{Line29, -rayLength * Sin(alpha - 3.1416 / 4), -rayLength * Cos(alpha - 3.1416 / 4)};
-  const Ray toTheLeft{Line30, -rayLength * Cos(alpha - 3.1416 / 4), rayLength * Sin(alpha - 3.1416 / 4)};
+  const Ray normal{slopeRayNormal, -rayLength * Cos(3.1416 / 2 - alpha),
+                   -rayLength * Sin(3.1416 / 2 - alpha)};
+  const Ray toTheRight{slopeRayRight, -rayLength * Sin(alpha - 3.1416 / 4),
+                       -rayLength * Cos(alpha - 3.1416 / 4)};
+  const Ray toTheLeft{slopeRayLeft, -rayLength * Cos(alpha - 3.1416 / 4),
+                      rayLength * Sin(alpha - 3.1416 / 4)};
   Burst({.nextStep = bonusNextStep,
-         .restoresHeader = Label25.Caption < "5",
-         .marker = Shape1(1),
-         .impactY = Shape1(1).Top + Shape1(1).Width / 2,
+         .restoresHeader = shotsFired.Caption < "5",
+         .marker = shells(1),
+         .impactY = shells(1).Top + shells(1).Width / 2,
          .rays = {normal, toTheRight, toTheLeft}});
 }
 
 // After the sixth shell the bonus header stays: "6" is not below "5".
 void QuintaraForm::BurstOnGround() {
   Burst({.nextStep = bonusNextStep,
-         .restoresHeader = Label25.Caption < "5",
-         .marker = Shape1(0),
+         .restoresHeader = shotsFired.Caption < "5",
+         .marker = shells(0),
          .impactY = groundFanHeight,
          .rays = LevelFan()});
 }
@@ -45,19 +48,19 @@ void QuintaraForm::BurstOnMountainFace() {
          .nextStep =
              " Adjust Muzzle Elevation Angle       and Muzzle Velocity. Then, click    the red Fire button.",
          .restoresHeader = true,
-         .marker = Shape1(0),
-         .impactY = Shape1(0).Top + Shape1(0).Width / 2,
+         .marker = shells(0),
+         .impactY = shells(0).Top + shells(0).Width / 2,
          .rays = LevelFan()});
 }
 
 std::array<QuintaraForm::Ray, 3> QuintaraForm::LevelFan() {
-  return {{{Line37, 0, -rayLength},
-           {Line36, rayLength * Sin(3.1416 / 4), -rayLength * Cos(3.1416 / 4)},
-           {Line38, -rayLength * Sin(3.1416 / 4), -rayLength * Cos(3.1416 / 4)}}};
+  return {{{levelRayUp, 0, -rayLength},
+           {levelRayRight, rayLength * Sin(3.1416 / 4), -rayLength * Cos(3.1416 / 4)},
+           {levelRayLeft, -rayLength * Sin(3.1416 / 4), -rayLength * Cos(3.1416 / 4)}}};
 }
 
 void QuintaraForm::Burst(const BurstRule& rule) {
-  if (Label25.Caption == "5") {
+  if (shotsFired.Caption == "5") {
     ShowBonusHeader(rule.nextStep);
   } else if (rule.restoresHeader) {
     ShowNormalHeader();
@@ -76,45 +79,47 @@ void QuintaraForm::Burst(const BurstRule& rule) {
   }
   for (const Ray& ray : rule.rays) ray.line.Visible = true;
 
-  Timer1.Interval = 400;
-  Timer1.Enabled = true;
+  flashTimer.Interval = 400;
+  flashTimer.Enabled = true;
   StopFlight();
 }
 
 // What a miss takes from the maximum score. Drag ends with the shell that it was chosen for.
 void QuintaraForm::ChargeMiss() {
   if (mDragOn == 0) {
-    Label23.Caption = ToText(Val(Label23.Caption) - 10);
+    bestScore.Caption = ToText(Val(bestScore.Caption) - 10);
   } else {
-    Label23.Caption = ToText(Val(Label23.Caption) - 15);
+    bestScore.Caption = ToText(Val(bestScore.Caption) - 15);
     mDragOn = 0;
-    cmdAdvanced.Enabled = true;
-    cmdAdvanced.Caption = "OFF";
-    Label15.Caption = "0";
+    dragButton.Enabled = true;
+    dragButton.Caption = "OFF";
+    dragConstant.Caption = "0";
   }
-  // The fifth shell's burst and the sixth's: Label21 says 6 from the fifth Fire on.
-  if (Val(Label21.Caption) == 6) {
-    Label23.Caption = ToText(Val(Label23.Caption) + 5);
-    cmdAdvanced.Enabled = false;
+  // The fifth shell's burst and the sixth's: shellInGun says 6 from the fifth Fire on.
+  if (Val(shellInGun.Caption) == 6) {
+    bestScore.Caption = ToText(Val(bestScore.Caption) + 5);
+    dragButton.Enabled = false;
   }
 }
 
 void QuintaraForm::StopFlight() {
-  tmrShell.Enabled = false;
-  tmrShell.Interval = 0;
+  shellTimer.Enabled = false;
+  shellTimer.Interval = 0;
 }
 
 // One tick clears whatever flashed up: the muzzle flash, the flames on the target, the fans of a burst.
 void QuintaraForm::Timer1_Timer() {
-  Line12.Visible = false;
-  Image8.Visible = false;
-  for (Line* ray : {&Line28, &Line29, &Line30, &Line37, &Line36, &Line38}) ray->Visible = false;
-  Timer1.Enabled = false;
+  muzzleFlash.Visible = false;
+  flames.Visible = false;
+  for (Line* ray :
+       {&slopeRayNormal, &slopeRayRight, &slopeRayLeft, &levelRayUp, &levelRayRight, &levelRayLeft})
+    ray->Visible = false;
+  flashTimer.Enabled = false;
 }
 
 void QuintaraForm::ThrowFragments() {
   scene().Randomize();
-  for (std::int16_t& origin : mFragOrigin) origin = CInt(Int(scene().Rnd() * 300 + Image8.Left));
+  for (std::int16_t& origin : mFragOrigin) origin = CInt(Int(scene().Rnd() * 300 + flames.Left));
 }
 
 // The fragments fly on, below the ground too, until Reset stops the timer; the fifth one decides when the
@@ -122,17 +127,17 @@ void QuintaraForm::ThrowFragments() {
 void QuintaraForm::tmrExplode_Timer() {
   gElevationScroll = 80;
   for (std::size_t i = 0; i < fragmentCount; ++i) MoveFragment(i);
-  if (!(shpExplode5.Top > fragmentGround)) return;
-  if (Val(Label25.Caption) < 6) {
-    Label4.Caption = " Click Reset to continue the game";
-  } else if (Val(Label25.Caption) == 6) {
-    Label4.Caption = " Click Reset to start a new game";
+  if (!(fragment5.Top > fragmentGround)) return;
+  if (Val(shotsFired.Caption) < 6) {
+    advice.Caption = " Click Reset to continue the game";
+  } else if (Val(shotsFired.Caption) == 6) {
+    advice.Caption = " Click Reset to start a new game";
   }
-  cmdReset.Enabled = true;
-  Image7.Enabled = false;
-  VScroll1.Enabled = false;
-  VScroll2.Enabled = false;
-  cmdAdvanced.Enabled = false;
+  resetButton.Enabled = true;
+  fireButton.Enabled = false;
+  elevationBar.Enabled = false;
+  velocityBar.Enabled = false;
+  dragButton.Enabled = false;
 }
 
 // A parabola over the fragment's run. The sines take 80 and 160 as radians, as every sine of the game does;

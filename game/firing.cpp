@@ -11,51 +11,52 @@ constexpr Colour ringLit = 0xFFFFFF;
 
 // Fires whatever is in the gun, also while a shell is in the air: that one is lost and the next one used up.
 void QuintaraForm::Image7_Click() {
-  Shape5.BorderColor = ringAtRest;
+  fireRing.BorderColor = ringAtRest;
   mShellArmed = 1;
-  Line24.Visible = false;
-  gElevationRad = (Val(Label1.Caption) * 3.1416) / 180;  // 3.1416 is the game's pi
-  gMuzzleVelocity = Val(Label6.Caption);
+  sightLine.Visible = false;
+  gElevationRad = (Val(elevation.Caption) * 3.1416) / 180;  // 3.1416 is the game's pi
+  gMuzzleVelocity = Val(velocity.Caption);
   Launch(flight, gMuzzleVelocity, gElevationRad);
-  flight.dt = HScroll1.Value * 0.059;
-  tmrShell.Interval = 17;
-  tmrShell.Enabled = true;
+  flight.dt = flightTimeBar.Value * 0.059;
+  shellTimer.Interval = 17;
+  shellTimer.Enabled = true;
 
-  Line12.Visible = true;
-  Timer1.Interval = 400;
-  Timer1.Enabled = true;
+  muzzleFlash.Visible = true;
+  flashTimer.Interval = 400;
+  flashTimer.Enabled = true;
   shared.PlayUnlessSoundIsOff(scene(), "biggun.wav");
 
   CountShell();
-  if (Val(Label25.Caption) == 5) PrepareBonusShot();
+  if (Val(shotsFired.Caption) == 5) PrepareBonusShot();
 }
 
 void QuintaraForm::CountShell() {
-  if (Label21.Caption == "6") {
+  if (shellInGun.Caption == "6") {
     FireBonusShell();
     return;
   }
-  const double shell = Val(Label21.Caption);
+  const double shell = Val(shellInGun.Caption);
   for (std::int16_t n = 5; n >= 1; --n) {
     if (shell != n) continue;
-    Label21.Caption = ToText(n + 1);
-    Label25.Caption = ToText(n);
-    Shape6(static_cast<std::int16_t>(5 - n)).Visible = false;  // the marks go from the top of the column down
+    shellInGun.Caption = ToText(n + 1);
+    shotsFired.Caption = ToText(n);
+    shellMarks(static_cast<std::int16_t>(5 - n)).Visible =
+        false;  // the marks go from the top of the column down
   }
 }
 
 void QuintaraForm::FireBonusShell() {
-  Label21.Visible = false;
-  Label25.Caption = "6";
-  Image6.Visible = false;
-  Picture5.Cls();
-  Picture11.Cls();
-  cmdReset.Enabled = true;
-  Label4.Caption = " Click Reset to start a new game";
-  Image7.Enabled = false;
-  VScroll1.Enabled = false;
-  VScroll2.Enabled = false;
-  cmdAdvanced.Enabled = false;
+  shellInGun.Visible = false;
+  shotsFired.Caption = "6";
+  shellGauge.Visible = false;
+  profile.Cls();
+  mountain.Cls();
+  resetButton.Enabled = true;
+  advice.Caption = " Click Reset to start a new game";
+  fireButton.Enabled = false;
+  elevationBar.Enabled = false;
+  velocityBar.Enabled = false;
+  dragButton.Enabled = false;
 }
 
 void QuintaraForm::tmrShell_Timer() {
@@ -64,39 +65,39 @@ void QuintaraForm::tmrShell_Timer() {
     // The shell is under ground and nothing was hit: the flight ends, but this tick still runs to its end and
     // may hit something after all.
     StopFlight();
-    Shape1(0).Visible = false;
+    shells(0).Visible = false;
   }
-  flight.dt = HScroll1.Value * 0.059;
-  BallisticStep(flight, Val(Label15.Caption));
+  flight.dt = flightTimeBar.Value * 0.059;
+  BallisticStep(flight, Val(dragConstant.Caption));
   MoveShell();
   TestForImpact();
 }
 
-// The shell has two markers, since a picture box hides what lies behind it: Shape1(0) in the open, and
-// Shape1(1) inside the mountain's box.
+// The shell has two markers, since a picture box hides what lies behind it: shells(0) in the open, and
+// shells(1) inside the mountain's box.
 void QuintaraForm::MoveShell() {
-  Shape1(0).Left = flight.x * 0.438;
-  Shape1(0).Top = 9250 - flight.y * 0.55;
-  Shape1(1).Visible = true;
-  Shape1(1).Left = flight.x * 0.438 - 790;
-  Shape1(1).Top = (mProfileHeight + 640) - flight.y * 0.55;
+  shells(0).Left = flight.x * 0.438;
+  shells(0).Top = 9250 - flight.y * 0.55;
+  shells(1).Visible = true;
+  shells(1).Left = flight.x * 0.438 - 790;
+  shells(1).Top = (mProfileHeight + 640) - flight.y * 0.55;
 
   // The range bar grows to the end; the height bar stays where the shell was highest.
-  Line8.X1 = Shape1(0).Left + 380;
-  Line8.Visible = true;
-  Line9.Visible = true;
-  if (flight.vy > 0) Line9.Y2 = Shape1(0).Top;
-  Shape1(0).Visible = true;
+  rangeBar.X1 = shells(0).Left + 380;
+  rangeBar.Visible = true;
+  heightBar.Visible = true;
+  if (flight.vy > 0) heightBar.Y2 = shells(0).Top;
+  shells(0).Visible = true;
 }
 
 void QuintaraForm::Image7_MouseMove() {
-  Shape5.BorderColor = ringLit;
+  fireRing.BorderColor = ringLit;
 }
 void QuintaraForm::Picture8_MouseMove() {
-  Shape5.BorderColor = ringAtRest;
+  fireRing.BorderColor = ringAtRest;
 }
 void QuintaraForm::cmdReset_MouseMove() {
-  Shape5.BorderColor = ringAtRest;
+  fireRing.BorderColor = ringAtRest;
 }
 
 }  // namespace quintara

@@ -5,7 +5,7 @@
 namespace quintara {
 
 void QuintaraForm::cmdHelp_Click() {
-  PopupMenu(mnuHelp, 13200, 6680);
+  PopupMenu(helpMenu, 13200, 6680);
 }
 
 void QuintaraForm::mnuIntro_Click() {
@@ -38,20 +38,20 @@ void QuintaraForm::mnuAbout_Click() {
 }
 
 void QuintaraForm::mnuReadme_Click() {
-  txtReadme.Visible = true;
-  cmdCloseReadme.Visible = true;
-  txtReadme.Width = 8000;
-  txtReadme.Height = 6000;
-  txtReadme.Left = 1000;
-  txtReadme.Top = 400;
-  cmdCloseReadme.Left = 8000;
-  cmdCloseReadme.Top = 6000;
-  ReadDocumentInto(txtReadme, shared.programFolder, "Readme.rtf");
+  readme.Visible = true;
+  closeReadmeButton.Visible = true;
+  readme.Width = 8000;
+  readme.Height = 6000;
+  readme.Left = 1000;
+  readme.Top = 400;
+  closeReadmeButton.Left = 8000;
+  closeReadmeButton.Top = 6000;
+  ReadDocumentInto(readme, shared.programFolder, "Readme.rtf");
 }
 
 void QuintaraForm::cmdCloseReadme_Click() {
-  txtReadme.Visible = false;
-  cmdCloseReadme.Visible = false;
+  readme.Visible = false;
+  closeReadmeButton.Visible = false;
 }
 
 void QuintaraForm::mnuUninstall_Click() {

@@ -6,26 +6,26 @@ namespace quintara {
 void QuintaraForm::Form_Load() {
   Left = (scene().ScreenWidth() - Width) / 2;
   Top = (scene().ScreenHeight() - Height) / 2 - 200;  // a little above the centre
-  Picture2.Visible = true;
+  landscape.Visible = true;
   SetAppFolder();
-  HScroll1.Value = 15;
+  flightTimeBar.Value = 15;
   StoreFlightTimeSetting();
   mShellArmed = 0;
 
   for (gLoopIndex = 1; gLoopIndex <= 4; ++gLoopIndex) {
-    Line1.Load(gLoopIndex);
-    Line1(gLoopIndex).Visible = true;
-    Shape6.Load(gLoopIndex);
-    Shape6(gLoopIndex).Visible = true;
+    scopeRows.Load(gLoopIndex);
+    scopeRows(gLoopIndex).Visible = true;
+    shellMarks.Load(gLoopIndex);
+    shellMarks(gLoopIndex).Visible = true;
   }
   for (gLoopIndex = 1; gLoopIndex <= 6; ++gLoopIndex) {
-    Line7.Load(gLoopIndex);
-    Line7(gLoopIndex).Visible = true;
+    scopeColumns.Load(gLoopIndex);
+    scopeColumns(gLoopIndex).Visible = true;
   }
   LayScopeGrid();
 
-  // The first step up the column of shells is shorter than the others: Shape6(0) stands at 700.
-  for (gLoopIndex = 1; gLoopIndex <= 4; ++gLoopIndex) Shape6(gLoopIndex).Top = 735 - 135 * gLoopIndex;
+  // The first step up the column of shells is shorter than the others: shellMarks(0) stands at 700.
+  for (gLoopIndex = 1; gLoopIndex <= 4; ++gLoopIndex) shellMarks(gLoopIndex).Top = 735 - 135 * gLoopIndex;
   DrawFragmentWidths();
 }
 
@@ -38,12 +38,12 @@ void QuintaraForm::SetAppFolder() {
 
 void QuintaraForm::LayScopeGrid() {
   for (gLoopIndex = 1; gLoopIndex <= 4; ++gLoopIndex) {
-    Line1(gLoopIndex).Y1 = 60 + 90 * gLoopIndex;
-    Line1(gLoopIndex).Y2 = 60 + 90 * gLoopIndex;
+    scopeRows(gLoopIndex).Y1 = 60 + 90 * gLoopIndex;
+    scopeRows(gLoopIndex).Y2 = 60 + 90 * gLoopIndex;
   }
   for (gLoopIndex = 1; gLoopIndex <= 6; ++gLoopIndex) {
-    Line7(gLoopIndex).X1 = 80 + 90 * gLoopIndex;
-    Line7(gLoopIndex).X2 = 80 + 90 * gLoopIndex;
+    scopeColumns(gLoopIndex).X1 = 80 + 90 * gLoopIndex;
+    scopeColumns(gLoopIndex).X2 = 80 + 90 * gLoopIndex;
   }
 }
 
@@ -52,9 +52,9 @@ void QuintaraForm::DrawFragmentWidths() {
   for (Shape* fragment : Fragments()) fragment->Width = Int(scene().Rnd() * 50 + 30);
 }
 
-// Record 5 of extra.txt carries the setting of HScroll1 from one target to the next.
+// Record 5 of extra.txt carries the setting of flightTimeBar from one target to the next.
 void QuintaraForm::StoreFlightTimeSetting() {
-  if (scene().files().WriteRecord(shared.programFolder + "extra.txt", 5, ToText(HScroll1.Value))) return;
+  if (scene().files().WriteRecord(shared.programFolder + "extra.txt", 5, ToText(flightTimeBar.Value))) return;
   scene().TellFault(
       "The flight time setting could not be saved in the file extra.txt. The file was left as it is, and the "
       "game goes on.");

@@ -11,40 +11,40 @@ QuintaraForm::QuintaraForm(Scene& owner, const SideForms& sideForms)
       About(sideForms.About) {
   Bind(Load, &QuintaraForm::Form_Load);
   Bind(QueryUnload, &QuintaraForm::Form_QueryUnload);
-  Bind(cmdReset.Click, &QuintaraForm::cmdReset_Click);
-  Bind(cmdReset.MouseMove, &QuintaraForm::cmdReset_MouseMove);
-  Bind(cmdSound.Click, &QuintaraForm::cmdSound_Click);
-  Bind(cmdCancel.Click, &QuintaraForm::cmdCancel_Click);
+  Bind(resetButton.Click, &QuintaraForm::cmdReset_Click);
+  Bind(resetButton.MouseMove, &QuintaraForm::cmdReset_MouseMove);
+  Bind(soundButton.Click, &QuintaraForm::cmdSound_Click);
+  Bind(cancelButton.Click, &QuintaraForm::cmdCancel_Click);
 
-  Bind(cmdSearch.Click, &QuintaraForm::cmdSearch_Click);
-  Bind(tmrBounce.Tick, &QuintaraForm::tmrBounce_Timer);
-  Bind(tmrBounce2.Tick, &QuintaraForm::tmrBounce2_Timer);
-  Bind(cmdMagnify.Click, &QuintaraForm::cmdMagnify_Click);
+  Bind(searchButton.Click, &QuintaraForm::cmdSearch_Click);
+  Bind(driftRightTimer.Tick, &QuintaraForm::tmrBounce_Timer);
+  Bind(driftLeftTimer.Tick, &QuintaraForm::tmrBounce2_Timer);
+  Bind(magnifyButton.Click, &QuintaraForm::cmdMagnify_Click);
 
-  Bind(VScroll1.Change, &QuintaraForm::VScroll1_Change);
-  Bind(VScroll2.Change, &QuintaraForm::VScroll2_Change);
-  Bind(HScroll1.Change, &QuintaraForm::HScroll1_Change);
-  Bind(cmdAdvanced.Click, &QuintaraForm::cmdAdvanced_Click);
+  Bind(elevationBar.Change, &QuintaraForm::VScroll1_Change);
+  Bind(velocityBar.Change, &QuintaraForm::VScroll2_Change);
+  Bind(flightTimeBar.Change, &QuintaraForm::HScroll1_Change);
+  Bind(dragButton.Click, &QuintaraForm::cmdAdvanced_Click);
 
-  Bind(Image7.Click, &QuintaraForm::Image7_Click);
-  Bind(Image7.MouseMove, &QuintaraForm::Image7_MouseMove);
-  Bind(Picture8.MouseMove, &QuintaraForm::Picture8_MouseMove);
-  Bind(tmrShell.Tick, &QuintaraForm::tmrShell_Timer);
-  Bind(Timer1.Tick, &QuintaraForm::Timer1_Timer);
-  Bind(tmrExplode.Tick, &QuintaraForm::tmrExplode_Timer);
+  Bind(fireButton.Click, &QuintaraForm::Image7_Click);
+  Bind(fireButton.MouseMove, &QuintaraForm::Image7_MouseMove);
+  Bind(firingPanel.MouseMove, &QuintaraForm::Picture8_MouseMove);
+  Bind(shellTimer.Tick, &QuintaraForm::tmrShell_Timer);
+  Bind(flashTimer.Tick, &QuintaraForm::Timer1_Timer);
+  Bind(fragmentTimer.Tick, &QuintaraForm::tmrExplode_Timer);
 
-  Bind(cmdHelp.Click, &QuintaraForm::cmdHelp_Click);
-  Bind(mnuIntro.Click, &QuintaraForm::mnuIntro_Click);
-  Bind(mnuScenario.Click, &QuintaraForm::mnuScenario_Click);
-  Bind(mnuRules.Click, &QuintaraForm::mnuRules_Click);
-  Bind(mnuPhysics.Click, &QuintaraForm::mnuPhysics_Click);
-  Bind(mnuCodeSegment.Click, &QuintaraForm::mnuCodeSegment_Click);
-  Bind(mnuMasters.Click, &QuintaraForm::mnuMasters_Click);
-  Bind(mnuAbout.Click, &QuintaraForm::mnuAbout_Click);
-  Bind(mnuPrint.Click, &QuintaraForm::mnuPrint_Click);
-  Bind(mnuReadme.Click, &QuintaraForm::mnuReadme_Click);
-  Bind(cmdCloseReadme.Click, &QuintaraForm::cmdCloseReadme_Click);
-  Bind(mnuUninstall.Click, &QuintaraForm::mnuUninstall_Click);
+  Bind(helpButton.Click, &QuintaraForm::cmdHelp_Click);
+  Bind(introductionItem.Click, &QuintaraForm::mnuIntro_Click);
+  Bind(scenarioItem.Click, &QuintaraForm::mnuScenario_Click);
+  Bind(rulesItem.Click, &QuintaraForm::mnuRules_Click);
+  Bind(physicsItem.Click, &QuintaraForm::mnuPhysics_Click);
+  Bind(codeItem.Click, &QuintaraForm::mnuCodeSegment_Click);
+  Bind(mastersItem.Click, &QuintaraForm::mnuMasters_Click);
+  Bind(aboutItem.Click, &QuintaraForm::mnuAbout_Click);
+  Bind(printingItem.Click, &QuintaraForm::mnuPrint_Click);
+  Bind(readmeItem.Click, &QuintaraForm::mnuReadme_Click);
+  Bind(closeReadmeButton.Click, &QuintaraForm::cmdCloseReadme_Click);
+  Bind(uninstallItem.Click, &QuintaraForm::mnuUninstall_Click);
 }
 
 }  // namespace quintara

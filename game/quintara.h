@@ -14,9 +14,9 @@ namespace quintara {
 
 // The main form, which is the whole game: one source per subject of it.
 //
-// There is no game object. The state of a game is what the captions say (Label21 the shell in the gun,
-// Label25 the shots fired, Label17 and Label23 the scores), which controls are enabled, and the few variables
-// below.
+// There is no game object. The state of a game is what the captions say (shellInGun the shell in the gun,
+// shotsFired the shots fired, score and bestScore the scores), which controls are enabled, and the few
+// variables below.
 class QuintaraForm : public QuintaraControls {
  public:
   // The windows that it opens, or closes when it closes.
@@ -31,7 +31,7 @@ class QuintaraForm : public QuintaraControls {
   QuintaraForm(Scene& scene, const SideForms& sideForms);
 
   // What the documents' windows use of this form.
-  MainForm ForDocuments() { return {*this, Label17, Label28, Label29, shared}; }
+  MainForm ForDocuments() { return {*this, score, valleyName, peakName, shared}; }
 
   SharedSettings shared;
 
@@ -42,7 +42,7 @@ class QuintaraForm : public QuintaraControls {
   Single gMuzzleVelocity;       // m/s
   Single gElevationRad;         // elevation of the shot
   Single gBarrelRad;            // elevation of the drawn barrel
-  Single gElevationScroll;      // VScroll1.Value
+  Single gElevationScroll;      // elevationBar.Value
   std::int16_t gStepCount = 0;  // counter of the preview loops
 
  private:
@@ -57,7 +57,7 @@ class QuintaraForm : public QuintaraControls {
   void DrawFragmentWidths();
   void StoreFlightTimeSetting();
   std::array<Shape*, fragmentCount> Fragments() {
-    return {&shpExplode1, &shpExplode2, &shpExplode3, &shpExplode4, &shpExplode5};
+    return {&fragment1, &fragment2, &fragment3, &fragment4, &fragment5};
   }
 
   // radar.cpp
@@ -131,7 +131,7 @@ class QuintaraForm : public QuintaraControls {
     double right, down;  // where it points to from the impact, twips
   };
   struct BurstRule {
-    std::string_view nextStep;  // what Label4 says after the fifth shell's burst
+    std::string_view nextStep;  // what advice says after the fifth shell's burst
     bool restoresHeader;        // whether the normal header comes back after any other
     Shape& marker;
     double impactY;
@@ -179,7 +179,7 @@ class QuintaraForm : public QuintaraControls {
   FormHandle<AnalysisForm> Analysis;
   FormHandle<AboutForm> About;
 
-  std::int16_t mShellArmed = 0;  // 1 lets tmrShell work
+  std::int16_t mShellArmed = 0;  // 1 lets shellTimer work
   std::int16_t mBonusShot = 0;   // 1: the bonus shot is armed
   std::int16_t mDragOn = 0;      // 1: drag is on for the shell now laid
 
@@ -190,7 +190,7 @@ class QuintaraForm : public QuintaraControls {
   Single mSightRatio;  // places the meeting point of the sight lines
   Single mTargetKm;    // range of the target, at least 10.7 km after a lock-on
 
-  std::int16_t mProfileHeight = 0;  // height of Picture11, twips
+  std::int16_t mProfileHeight = 0;  // height of mountain, twips
   Single mImpactSeconds;            // whole seconds to impact by the last preview of a laying
   Single mImpactSlope;              // angle of the slope struck, radians
 

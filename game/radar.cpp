@@ -24,30 +24,30 @@ constexpr ProfileBand profileBands[] = {
 
 void QuintaraForm::cmdSearch_Click() {
   flight.dt = 0.05;
-  Line2.X1 = 1800;
-  Line2.Y1 = 2040;
-  Shape2.Left = 1560;
-  Shape2.Top = 1920;
-  Shape2.Visible = true;
-  Line2.Visible = true;
+  beam.X1 = 1800;
+  beam.Y1 = 2040;
+  target.Left = 1560;
+  target.Top = 1920;
+  target.Visible = true;
+  beam.Visible = true;
   scene().Randomize();
   mTargetAltitude = CInt(Int(scene().Rnd() * 6000 + 1));
-  Label4.Caption = "  Target aquisition in progress";
+  advice.Caption = "  Target aquisition in progress";
   flight.x = 0;
   flight.y = 0;
-  Line6.Visible = true;
-  Line17.Visible = true;
-  Image2.Visible = true;
-  tmrBounce.Interval = 50;
-  tmrBounce.Enabled = true;
-  cmdSearch.Enabled = false;
+  mortarToRadar.Visible = true;
+  mortarMark.Visible = true;
+  mortarTag.Visible = true;
+  driftRightTimer.Interval = 50;
+  driftRightTimer.Enabled = true;
+  searchButton.Enabled = false;
 }
 
 void QuintaraForm::tmrBounce_Timer() {
-  DriftTarget({tmrBounce, tmrBounce2, 1});
+  DriftTarget({driftRightTimer, driftLeftTimer, 1});
 }
 void QuintaraForm::tmrBounce2_Timer() {
-  DriftTarget({tmrBounce2, tmrBounce, -1});
+  DriftTarget({driftLeftTimer, driftRightTimer, -1});
 }
 
 // One tick of the target's run. At an edge the two timers change over, and the tick goes on all the same: a
@@ -56,10 +56,10 @@ void QuintaraForm::DriftTarget(const Drift& drift) {
   SetTrackSpeed();
   flight.x = flight.x + drift.direction * (flight.dt * mTrackSpeed);
   flight.y = flight.y + flight.dt * 500;
-  Shape2.Left = flight.x;
-  Shape2.Top = flight.y + 2000;
+  target.Left = flight.x;
+  target.Top = flight.y + 2000;
 
-  const bool atEdge = drift.direction > 0 ? Shape2.Left > 14500 : Shape2.Left < 0;
+  const bool atEdge = drift.direction > 0 ? target.Left > 14500 : target.Left < 0;
   if (atEdge) {
     scene().Beep();
     drift.timer.Interval = 0;
@@ -86,7 +86,7 @@ void QuintaraForm::SetTrackSpeed() {
 void QuintaraForm::ShowProfilePicture() {
   for (const ProfileBand& band : profileBands) {
     if (flight.x > band.above && flight.x < band.below) {
-      scene().LoadPictureInto(Picture4, shared.programFolder + band.file);
+      scene().LoadPictureInto(scope, shared.programFolder + band.file);
       return;
     }
   }
@@ -94,11 +94,11 @@ void QuintaraForm::ShowProfilePicture() {
 
 // The target grows to the right and downwards, and the beam ends on its centre.
 void QuintaraForm::GrowTarget() {
-  Shape2.Visible = true;
-  Shape2.Width = (500 - (12000 - flight.x) / 60) * (flight.y / 4800 + 5.0 / 8);
-  Shape2.Height = Shape2.Width / 2;
-  Line2.X1 = Shape2.Left + Shape2.Width / 2;
-  Line2.Y1 = Shape2.Top + Shape2.Height / 2;
+  target.Visible = true;
+  target.Width = (500 - (12000 - flight.x) / 60) * (flight.y / 4800 + 5.0 / 8);
+  target.Height = target.Width / 2;
+  beam.X1 = target.Left + target.Width / 2;
+  beam.Y1 = target.Top + target.Height / 2;
 }
 
 void QuintaraForm::LockOn(Timer& running) {
@@ -106,14 +106,14 @@ void QuintaraForm::LockOn(Timer& running) {
   DrawSightings();
   MeasureRange();
 
-  Label5.Left = Shape3.Left - 200;
-  Label5.Top = Shape3.Top + 120;
-  Label5.Caption = " Target at " + std::string(quintara::Left(ToText(mTargetKm), 4)) + " km";
-  Label5.Visible = true;
-  cmdMagnify.Enabled = true;
+  targetTag.Left = targetMark.Left - 200;
+  targetTag.Top = targetMark.Top + 120;
+  targetTag.Caption = " Target at " + std::string(quintara::Left(ToText(mTargetKm), 4)) + " km";
+  targetTag.Visible = true;
+  magnifyButton.Enabled = true;
   running.Interval = 0;
   running.Enabled = false;
-  Label4.Caption =
+  advice.Caption =
       " Click Magnify (M) to display the     Terrain Profile and start the           Ballistic Simulator";
 }
 
@@ -121,28 +121,30 @@ void QuintaraForm::LockOn(Timer& running) {
 // places.
 void QuintaraForm::DrawSightings() {
   // The bearing takes flight.y as it is, without the 2000 that the target's place on the landscape adds.
-  mBearingDeg = (180 / 3.1416) * Atn((flight.x - Line6.X1) / (flight.y - Line6.Y1));
+  mBearingDeg = (180 / 3.1416) * Atn((flight.x - mortarToRadar.X1) / (flight.y - mortarToRadar.Y1));
   mSightRatio = (mBearingDeg + 101.6) / 458.6;
-  Line2.X1 = flight.x;
-  Line2.Y1 = flight.y + 2000;
-  Line3.X1 = Line2.X1;
-  Line3.Y1 = Line2.Y1;
-  Line5.X1 = (Line2.X1 * mSightRatio + Line6.X2) / (mSightRatio + 1);
-  Line5.Y1 = ((Line5.X1 - Line6.X2) * Line2.Y1 + (Line2.X1 - Line5.X1) * Line6.Y2) / (Line2.X1 - Line6.X2);
-  Line3.X2 = Line5.X1;
-  Line3.Y2 = Line5.Y1;
-  Shape3.Left = Line2.X1 - Shape3.Width / 2;
-  Shape3.Top = Line2.Y1 - Shape3.Height / 2;
-  Line2.BorderColor = 255;
-  Line3.Visible = true;
-  Line5.Visible = true;
-  Shape3.Visible = true;
-  Shape2.Visible = false;
+  beam.X1 = flight.x;
+  beam.Y1 = flight.y + 2000;
+  sightingToTarget.X1 = beam.X1;
+  sightingToTarget.Y1 = beam.Y1;
+  sightingToMortar.X1 = (beam.X1 * mSightRatio + mortarToRadar.X2) / (mSightRatio + 1);
+  sightingToMortar.Y1 = ((sightingToMortar.X1 - mortarToRadar.X2) * beam.Y1 +
+                         (beam.X1 - sightingToMortar.X1) * mortarToRadar.Y2) /
+                        (beam.X1 - mortarToRadar.X2);
+  sightingToTarget.X2 = sightingToMortar.X1;
+  sightingToTarget.Y2 = sightingToMortar.Y1;
+  targetMark.Left = beam.X1 - targetMark.Width / 2;
+  targetMark.Top = beam.Y1 - targetMark.Height / 2;
+  beam.BorderColor = 255;
+  sightingToTarget.Visible = true;
+  sightingToMortar.Visible = true;
+  targetMark.Visible = true;
+  target.Visible = false;
 }
 
 void QuintaraForm::MeasureRange() {
-  const double dx = Line2.X1 - Line6.X2;
-  const double dy = Line2.Y1 - Line6.Y2;
+  const double dx = beam.X1 - mortarToRadar.X2;
+  const double dy = beam.Y1 - mortarToRadar.Y2;
   mTargetKm = Sqr(dx * dx + dy * dy);
   mTargetKm = mTargetKm * 0.00182 + 7.45;
   if (mTargetKm < Single(10.7)) mTargetKm = 10.7;  // a near target is reported, and stands, at 10.7 km

@@ -43,7 +43,7 @@ TEST_F(ClosingTest, ABoxOutlivesAWindowThatWasClosedJustBefore) {
     closed = &WindowOf(program.analysis());
     closed->close();
   };
-  Next([this] { Click(main.cmdHelp); });
+  Next([this] { Click(main.helpButton); });
   Next([&] {
     Next(closeTheDocument);
     QMenu* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());

@@ -47,8 +47,8 @@ TEST_F(KeyboardTest, TabWalksThroughWhatCanBeUsed) {
 }
 
 TEST_F(KeyboardTest, TabGoesOnFromAControlThatCanNotBeUsedAnyMore) {
-  main.cmdSound.Click.Bind([&] { main.cmdSound.Enabled = false; });
-  WidgetOf(main.cmdSound).setFocus();
+  main.soundButton.Click.Bind([&] { main.soundButton.Enabled = false; });
+  WidgetOf(main.soundButton).setFocus();
   Press(Qt::Key_Space);
   EXPECT_EQ(NameOfFocus(main), "") << "a second blank presses nothing";
   Press(Qt::Key_Tab);
@@ -59,7 +59,8 @@ TEST_F(KeyboardTest, TabGoesOnFromAControlThatCanNotBeUsedAnyMore) {
 
 TEST_F(KeyboardTest, TheControlWithTheFocusIsMarked) {
   OpenProfile();
-  for (const Object* object : Objects{&main.VScroll1, &main.HScroll1, &main.Image7, &main.cmdHelp}) {
+  for (const Object* object :
+       Objects{&main.elevationBar, &main.flightTimeBar, &main.fireButton, &main.helpButton}) {
     QWidget& widget = WidgetOf(*object);
     const QRect place(widget.mapTo(&WindowOf(main), QPoint()), widget.size());
     WindowOf(main).setFocus();
@@ -80,10 +81,10 @@ TEST_F(KeyboardTest, BarsGoTheWayOfTheKeysWhicheverEndIsTheLarger) {
       EXPECT_EQ(bar.Value, value) << bar.name();
     }
   };
-  press(main.VScroll1, {{Qt::Key_Up, 339}, {Qt::Key_PageUp, 329}, {Qt::Key_Down, 330}});
-  EXPECT_EQ(main.Label1.Caption, "40") << "the handler ran";
-  press(main.VScroll2, {{Qt::Key_Up, 260}, {Qt::Key_Home, 750}, {Qt::Key_PageDown, 740}});
-  press(main.HScroll1, {{Qt::Key_Left, 14}, {Qt::Key_PageUp, 13}, {Qt::Key_End, 15}});
+  press(main.elevationBar, {{Qt::Key_Up, 339}, {Qt::Key_PageUp, 329}, {Qt::Key_Down, 330}});
+  EXPECT_EQ(main.elevation.Caption, "40") << "the handler ran";
+  press(main.velocityBar, {{Qt::Key_Up, 260}, {Qt::Key_Home, 750}, {Qt::Key_PageDown, 740}});
+  press(main.flightTimeBar, {{Qt::Key_Left, 14}, {Qt::Key_PageUp, 13}, {Qt::Key_End, 15}});
   TrajectoryForm& trajectory = program.trajectory();
   Open(trajectory);
   Do([&] { trajectory.Slider1.Value = 50; });
@@ -94,17 +95,17 @@ TEST_F(KeyboardTest, BarsGoTheWayOfTheKeysWhicheverEndIsTheLarger) {
 
 TEST_F(KeyboardTest, SpaceAndEnterPressWhatHasTheFocus) {
   Names heard;
-  main.cmdSound.Click.Bind([&] { heard.push_back("sound"); });
-  main.Image7.Click.Bind([&] { heard.push_back("fire"); });
+  main.soundButton.Click.Bind([&] { heard.push_back("sound"); });
+  main.fireButton.Click.Bind([&] { heard.push_back("fire"); });
   OpenProfile();
-  for (const Object* object : Objects{&main.cmdSound, &main.Image7}) {
+  for (const Object* object : Objects{&main.soundButton, &main.fireButton}) {
     WidgetOf(*object).setFocus();
     Press(Qt::Key_Space);
     Press(Qt::Key_Return);
     Press(Qt::Key_Enter, Qt::KeypadModifier);
   }
   EXPECT_EQ(heard, (Names{"sound", "sound", "sound", "fire", "fire", "fire"}));
-  Do([&] { main.Image7.Enabled = false; });
+  Do([&] { main.fireButton.Enabled = false; });
   EXPECT_EQ(NameOfFocus(main), "");
   Press(Qt::Key_Space);
   Press(Qt::Key_Return);
@@ -113,18 +114,18 @@ TEST_F(KeyboardTest, SpaceAndEnterPressWhatHasTheFocus) {
 
 TEST_F(KeyboardTest, LettersWorkTheConsoleAndNotWhatCannotBeUsed) {
   Names heard;
-  main.cmdSearch.Click.Bind([&] { heard.push_back("search"); });
-  main.Image7.Click.Bind([&] { heard.push_back("fire"); });
-  main.cmdReset.Click.Bind([&] { heard.push_back("reset"); });
-  main.cmdSound.Click.Bind([&] { heard.push_back("sound"); });
+  main.searchButton.Click.Bind([&] { heard.push_back("search"); });
+  main.fireButton.Click.Bind([&] { heard.push_back("fire"); });
+  main.resetButton.Click.Bind([&] { heard.push_back("reset"); });
+  main.soundButton.Click.Bind([&] { heard.push_back("sound"); });
   for (const auto modifier : {Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier})
     Press(Qt::Key_S, modifier);
   for (const Qt::Key key : {Qt::Key_F, Qt::Key_R, Qt::Key_O}) Press(key);
   EXPECT_EQ(heard, (Names{"search", "search", "sound"}));
   heard.clear();
   OpenProfile();
-  Do([&] { main.cmdReset.Enabled = true; });
-  WidgetOf(main.VScroll1).setFocus();
+  Do([&] { main.resetButton.Enabled = true; });
+  WidgetOf(main.elevationBar).setFocus();
   for (const Qt::Key key : {Qt::Key_F, Qt::Key_R, Qt::Key_S}) Press(key);
   EXPECT_EQ(heard, (Names{"fire", "reset"}));
   QKeyEvent held(QEvent::KeyPress, Qt::Key_F, Qt::NoModifier, "f", true);

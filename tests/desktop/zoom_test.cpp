@@ -192,8 +192,8 @@ TEST_F(GameZoomTest, AWindowThatIsTooLargeFitsTheScreenInProportion) {
   EXPECT_NEAR(window.width() / natural.width(), window.height() / natural.height(), 0.005);
   EXPECT_GT(window.height(), screen.height() * 9 / 10);
   int clicks = 0;
-  main.cmdSound.Click.Bind([&] { ++clicks; });
-  const Rectangle button = main.cmdSound.Surface(), panel = main.Picture1.Surface();
+  main.soundButton.Click.Bind([&] { ++clicks; });
+  const Rectangle button = main.soundButton.Surface(), panel = main.console.Surface();
   const QPointF middle(panel.left + button.left + button.width / 2,
                        panel.top + button.top + button.height / 2);
   const QPoint at = (middle / twipsPerPixel * window.zoom().factor()).toPoint();

@@ -114,9 +114,9 @@ TEST_F(DamagedFile, TheRecordFileGivesASettingInRange) {
   QuintaraForm& form = program.quintara();
   DamageInEveryWay(before + setting + "another   ", AllBytes, [&](const std::string& bytes, std::size_t at) {
     platform.memory.written["/quintara/extra.txt"] = bytes;
-    form.cmdMagnify.Enabled = true;
-    UserClicks(form.cmdMagnify);
-    const std::int16_t taken = form.HScroll1.Value;
+    form.magnifyButton.Enabled = true;
+    UserClicks(form.magnifyButton);
+    const std::int16_t taken = form.flightTimeBar.Value;
     const bool isWhole = at >= before.size() + setting.size() || (at < before.size() && bytes.size() > at);
     ASSERT_TRUE(taken >= 1 && taken <= 15) << taken;
     ASSERT_TRUE(taken == 7 || !isWhole) << taken;

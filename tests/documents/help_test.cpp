@@ -19,7 +19,7 @@ class HelpTest : public ::testing::Test, protected RunningGame {
   }
   void Choose(const char* item) {
     platform.menuAnswers = {item};
-    Click(form.cmdHelp);
+    Click(form.helpButton);
     platform.log.erase(platform.log.begin());  // the popup itself
   }
 
@@ -48,7 +48,7 @@ TEST_F(HelpTest, EachTopicLaysTheWindowOutAnew) {
         << row.item;
     for (const CommandButton* button : {&analysis.cmdTrajectory, &analysis.cmdFreeFall})
       EXPECT_EQ(button->Visible, row.demonstrations) << row.item;
-    for (const Label* name : {&form.Label28, &form.Label29})
+    for (const Label* name : {&form.valleyName, &form.peakName})
       EXPECT_EQ(name->Visible, row.placeNames) << row.item;
   }
 }
@@ -81,7 +81,7 @@ TEST_F(HelpTest, CancelClosesTheDemonstrationsAndTakesTheNamesAway) {
   platform.log.clear();
   Click(analysis.cmdCancel);
   EXPECT_EQ(platform.log, (Log{"unload Analysis", "unload frmTrajectory", "unload projectile"}));
-  EXPECT_FALSE(form.Label28.Visible || form.Label29.Visible);
+  EXPECT_FALSE(form.valleyName.Visible || form.peakName.Visible);
   EXPECT_TRUE(analysis.loaded() && !analysis.IsVisible()) << "loaded again by the last touch, hidden";
   EXPECT_EQ(analysis.Caption, "Analysis of Quintara");
 
@@ -90,22 +90,22 @@ TEST_F(HelpTest, CancelClosesTheDemonstrationsAndTakesTheNamesAway) {
   platform.log.clear();
   UserCloses(analysis);
   EXPECT_EQ(platform.log, Log{"unload Analysis"}) << "the frame closes the document alone";
-  EXPECT_TRUE(form.Label28.Visible);
+  EXPECT_TRUE(form.valleyName.Visible);
 }
 
 TEST_F(HelpTest, AMissingDocumentIsNamedInItsBox) {
   fs::remove(folder.path() / "Help" / "Rules.rtf");
   Choose("mnuReadme");
-  EXPECT_EQ(form.txtReadme.PlainText(), "Read me.");
-  Click(form.cmdCloseReadme);
-  EXPECT_FALSE(form.txtReadme.Visible || form.cmdCloseReadme.Visible);
+  EXPECT_EQ(form.readme.PlainText(), "Read me.");
+  Click(form.closeReadmeButton);
+  EXPECT_FALSE(form.readme.Visible || form.closeReadmeButton.Visible);
   fs::remove(folder.path() / "Readme.rtf");
   fs::create_directory(folder.path() / "Readme.rtf");
   Choose("mnuRules");
   EXPECT_EQ(analysis.rtbMath.PlainText(), "The document Help\\Rules.rtf could not be read.");
   EXPECT_TRUE(analysis.IsVisible());
   Choose("mnuReadme");
-  EXPECT_EQ(form.txtReadme.PlainText(), "The document Readme.rtf could not be read.");
+  EXPECT_EQ(form.readme.PlainText(), "The document Readme.rtf could not be read.");
 }
 
 TEST_F(HelpTest, ClosingTheMainFormUnloadsTheOthersInTheirOrder) {

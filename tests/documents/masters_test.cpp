@@ -16,7 +16,7 @@ class MastersTest : public ::testing::Test, protected RunningGame {
   void Put(const std::string& bytes) const { folder.Put("Masters.txt", bytes); }
   // The offer of the game, and a name typed into it.
   void Enter(const char* score, const std::string& name) {
-    form.Label17.Caption = score;
+    form.score.Caption = score;
     masters.Show();
     masters.Picture1.Visible = true;
     for (const char c : name) UserTypes(masters.Text1, c);
@@ -36,7 +36,7 @@ TEST_F(MastersTest, EnterSavesTheListWithATitleFrom35PointsOn) {
   EXPECT_TRUE(platform.log.empty()) << "one offer takes one name";
   Put("");
   masters.Unload();
-  Click(form.cmdSound);
+  Click(form.soundButton);
   platform.log.clear();
   Enter("40", "");
   EXPECT_EQ(folder.Bytes("Masters.txt"), " - Master of Quintara\r\n")
@@ -80,7 +80,7 @@ TEST_F(MastersTest, ALongListIsWrittenBackWhole) {
 
 TEST_F(MastersTest, TheWindowFromTheHelpMenuOffersNothing) {
   platform.menuAnswers = {"mnuMasters"};
-  Click(form.cmdHelp);
+  Click(form.helpButton);
   EXPECT_FALSE(masters.Picture1.Visible);
   EXPECT_EQ(masters.Left, (28800.0 - 11175) / 2);
   EXPECT_EQ(masters.Top, (16200.0 - 9360) / 2);

@@ -139,9 +139,9 @@ TEST(AnalysisTest, TheStepMovesTheImpactAsItSays) {
   for (const auto& row : table) {
     Gun gun;
     gun.OpenProfile();
-    UserDragsTo(gun.form.HScroll1, Short(settings.at(row[0])));
+    UserDragsTo(gun.form.flightTimeBar, Short(settings.at(row[0])));
     gun.Lay(shot[0], shot[1]);
-    const std::string& time = gun.form.Label31.Caption;
+    const std::string& time = gun.form.timeToImpact.Caption;
     EXPECT_EQ(time.substr(time.find_first_of("0123456789")), row[3] + " (sec)");
     const std::int64_t start = gun.program.scene().dispatcher().now();
     gun.Fire();
@@ -179,7 +179,7 @@ TEST(AnalysisTest, DragShortensTheShotAsItSays) {
   for (const auto& row : table) {
     Gun gun;
     gun.OpenProfile();
-    UserDragsTo(gun.form.HScroll1, 1);
+    UserDragsTo(gun.form.flightTimeBar, 1);
     if (row[0] > 0) gun.TurnDragOn(row[0]);
     gun.Lay(60, 500);
     gun.Fire();
@@ -257,7 +257,7 @@ TEST(CodeTest, ItsLinesFlyTheShell) {
   gun.OpenProfile();
   gun.TurnDragOn(0.01);
   gun.Lay(61, 430);
-  gun.Click(gun.form.Image7);
+  gun.Click(gun.form.fireButton);
   Reckoner shell;
   shell.values = {{"elevation", 61}, {"velocity", 430}, {"k", 0.01}, {"dt", Single(0.885)},
                   {"x", 0},          {"y", 0},          {"t", 0}};
@@ -277,7 +277,7 @@ TEST(CodeTest, ItsStepByHandIsRight) {
   const auto shot = Numbers(code, "Elevation [N] degrees, velocity [N] m/s, no drag, flight time on Fast");
   gun.Lay(shot[0] + 1, shot[1]);
   gun.Lay(shot[0], shot[1]);
-  gun.Click(gun.form.Image7);
+  gun.Click(gun.form.fireButton);
   const auto before = Numbers(code, "vx = [N] m/s and vy = [N] m/s");
   EXPECT_NEAR(gun.form.flight.vx, before[0], tenth);
   EXPECT_NEAR(gun.form.flight.vy, before[1], tenth);

@@ -102,7 +102,7 @@ TEST_F(PropertiesTest, ABitmapOfTheDataFolderIsLoaded) {
   folder.Put("Graphics/hill.bmp", bitmap);
   EXPECT_EQ(Say(R"(set Quintara.Picture4.Picture "Graphics\\hill.bmp")"), "ok\n");
   EXPECT_EQ(Get("Quintara.Picture4.Picture"), "\"Graphics\\\\hill.bmp\"");
-  EXPECT_TRUE(form.Picture4.Picture.Get().isFile);
+  EXPECT_TRUE(form.scope.Picture.Get().isFile);
 }
 
 TEST_F(PropertiesTest, OnlyAssigningTouchesAForm) {

@@ -25,7 +25,7 @@ struct Saving {
 inline std::vector<Saving> AllSavings() {
   const auto addName = [](Program& program, RecordingPlatform&) {
     program.Start();
-    program.quintara().Label17.Caption = "40";
+    program.quintara().score.Caption = "40";
     program.masters().Show();
     program.masters().Picture1.Visible = true;
     for (const char key : {'A', '\r'}) UserTypes(program.masters().Text1, key);
