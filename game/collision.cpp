@@ -105,10 +105,10 @@ void QuintaraForm::HitTarget() {
 }
 
 void QuintaraForm::OfferListOfMasters() {
-  frmMasters->Show();
-  frmMasters->Picture1.Visible = true;
-  frmMasters->Text1.Visible = true;
-  frmMasters->Text1.SetFocus();
+  masters_->Show();
+  masters_->Picture1.Visible = true;
+  masters_->Text1.Visible = true;
+  masters_->Text1.SetFocus();
 }
 
 }  // namespace quintara

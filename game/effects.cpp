@@ -108,7 +108,7 @@ void QuintaraForm::StopFlight() {
 }
 
 // One tick clears whatever flashed up: the muzzle flash, the flames on the target, the fans of a burst.
-void QuintaraForm::Timer1_Timer() {
+void QuintaraForm::EndFlash() {
   muzzleFlash.Visible = false;
   flames.Visible = false;
   for (Line* ray :
@@ -124,7 +124,7 @@ void QuintaraForm::ThrowFragments() {
 
 // The fragments fly on, below the ground too, until Reset stops the timer; the fifth one decides when the
 // game goes on.
-void QuintaraForm::tmrExplode_Timer() {
+void QuintaraForm::FlyFragments() {
   gElevationScroll = 80;
   for (std::size_t i = 0; i < fragmentCount; ++i) MoveFragment(i);
   if (!(fragment5.Top > fragmentGround)) return;

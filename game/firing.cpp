@@ -10,7 +10,7 @@ constexpr Colour ringLit = 0xFFFFFF;
 }  // namespace
 
 // Fires whatever is in the gun, also while a shell is in the air: that one is lost and the next one used up.
-void QuintaraForm::Image7_Click() {
+void QuintaraForm::Fire() {
   fireRing.BorderColor = ringAtRest;
   mShellArmed = 1;
   sightLine.Visible = false;
@@ -59,7 +59,7 @@ void QuintaraForm::FireBonusShell() {
   dragButton.Enabled = false;
 }
 
-void QuintaraForm::tmrShell_Timer() {
+void QuintaraForm::FlyShell() {
   if (mShellArmed != 1) return;
   if (flight.y < 0) {
     // The shell is under ground and nothing was hit: the flight ends, but this tick still runs to its end and
@@ -90,13 +90,10 @@ void QuintaraForm::MoveShell() {
   shells(0).Visible = true;
 }
 
-void QuintaraForm::Image7_MouseMove() {
+void QuintaraForm::LightRing() {
   fireRing.BorderColor = ringLit;
 }
-void QuintaraForm::Picture8_MouseMove() {
-  fireRing.BorderColor = ringAtRest;
-}
-void QuintaraForm::cmdReset_MouseMove() {
+void QuintaraForm::DimRing() {
   fireRing.BorderColor = ringAtRest;
 }
 

@@ -4,40 +4,40 @@
 
 namespace quintara {
 
-void QuintaraForm::cmdHelp_Click() {
+void QuintaraForm::OpenHelpMenu() {
   PopupMenu(helpMenu, 13200, 6680);
 }
 
-void QuintaraForm::mnuIntro_Click() {
-  Analysis->Open(HelpTopic::Introduction);
+void QuintaraForm::ReadIntroduction() {
+  documents_->Open(HelpTopic::Introduction);
 }
-void QuintaraForm::mnuScenario_Click() {
-  Analysis->Open(HelpTopic::Scenario);
+void QuintaraForm::ReadScenario() {
+  documents_->Open(HelpTopic::Scenario);
 }
-void QuintaraForm::mnuRules_Click() {
-  Analysis->Open(HelpTopic::Rules);
+void QuintaraForm::ReadRules() {
+  documents_->Open(HelpTopic::Rules);
 }
-void QuintaraForm::mnuPhysics_Click() {
-  Analysis->Open(HelpTopic::Physics);
+void QuintaraForm::ReadPhysics() {
+  documents_->Open(HelpTopic::Physics);
 }
-void QuintaraForm::mnuCodeSegment_Click() {
-  Analysis->Open(HelpTopic::Code);
+void QuintaraForm::ReadCode() {
+  documents_->Open(HelpTopic::Code);
 }
-void QuintaraForm::mnuPrint_Click() {
-  Analysis->Open(HelpTopic::Printing);
-}
-
-void QuintaraForm::mnuMasters_Click() {
-  frmMasters->Show();
-  frmMasters->Left = (scene().ScreenWidth() - frmMasters->Width) / 2;
-  frmMasters->Top = (scene().ScreenHeight() - frmMasters->Height) / 2;
+void QuintaraForm::ReadPrinting() {
+  documents_->Open(HelpTopic::Printing);
 }
 
-void QuintaraForm::mnuAbout_Click() {
-  About->Show();
+void QuintaraForm::ShowMasters() {
+  masters_->Show();
+  masters_->Left = (scene().ScreenWidth() - masters_->Width) / 2;
+  masters_->Top = (scene().ScreenHeight() - masters_->Height) / 2;
 }
 
-void QuintaraForm::mnuReadme_Click() {
+void QuintaraForm::ShowAbout() {
+  about_->Show();
+}
+
+void QuintaraForm::OpenReadme() {
   readme.Visible = true;
   closeReadmeButton.Visible = true;
   readme.Width = 8000;
@@ -49,12 +49,12 @@ void QuintaraForm::mnuReadme_Click() {
   ReadDocumentInto(readme, shared.programFolder, "Readme.rtf");
 }
 
-void QuintaraForm::cmdCloseReadme_Click() {
+void QuintaraForm::CloseReadme() {
   readme.Visible = false;
   closeReadmeButton.Visible = false;
 }
 
-void QuintaraForm::mnuUninstall_Click() {
+void QuintaraForm::ExplainUninstalling() {
   constexpr std::int32_t okWithExclamation = 48;
   scene().MsgBox(
       "To uninstall Quintara and all it's associated files from your computer, simply double click the "

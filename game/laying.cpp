@@ -13,10 +13,10 @@ constexpr std::string_view bonusLayingText =
 
 }  // namespace
 
-void QuintaraForm::VScroll1_Change() {
+void QuintaraForm::LayElevation() {
   LayGun(Laying::Elevation);
 }
-void QuintaraForm::VScroll2_Change() {
+void QuintaraForm::LayVelocity() {
   LayGun(Laying::Velocity);
 }
 
@@ -128,11 +128,11 @@ void QuintaraForm::PlotShell(Single x, Single y) {
 }
 
 // Only the caption: the new setting counts from the next preview or flight step on.
-void QuintaraForm::HScroll1_Change() {
+void QuintaraForm::RepeatTimeToImpact() {
   ShowTimeToImpact(mImpactSeconds);
 }
 
-void QuintaraForm::cmdAdvanced_Click() {
+void QuintaraForm::SwitchDrag() {
   if (mDragOn == 0) {
     TurnDragOn();
   } else {

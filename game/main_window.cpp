@@ -3,7 +3,7 @@
 
 namespace quintara {
 
-void QuintaraForm::Form_Load() {
+void QuintaraForm::SetUp() {
   Left = (scene().ScreenWidth() - Width) / 2;
   Top = (scene().ScreenHeight() - Height) / 2 - 200;  // a little above the centre
   landscape.Visible = true;

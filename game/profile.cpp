@@ -4,7 +4,7 @@
 namespace quintara {
 
 // Opens the profile between gun and target. The further the target, the taller the mountain.
-void QuintaraForm::cmdMagnify_Click() {
+void QuintaraForm::Magnify() {
   fireButton.Enabled = false;
   advice.Caption =
       " Adjust Muzzle Elevation Angle       and Muzzle Velocity. If Drag is       desired, click the OFF "

@@ -21,11 +21,11 @@ class QuintaraForm : public QuintaraControls {
  public:
   // The windows that it opens, or closes when it closes.
   struct SideForms {
-    ProjectileForm& projectile;
-    TrajectoryForm& frmTrajectory;
-    MastersForm& frmMasters;
-    AnalysisForm& Analysis;
-    AboutForm& About;
+    ProjectileForm& bench;
+    TrajectoryForm& simulator;
+    MastersForm& masters;
+    AnalysisForm& documents;
+    AboutForm& about;
   };
 
   QuintaraForm(Scene& scene, const SideForms& sideForms);
@@ -51,7 +51,7 @@ class QuintaraForm : public QuintaraControls {
       " Adjust Muzzle Elevation Angle       and Muzzle Velocity. Then, click     the red Fire button.";
 
   // main_window.cpp
-  void Form_Load();
+  void SetUp();
   void SetAppFolder();
   void LayScopeGrid();
   void DrawFragmentWidths();
@@ -66,9 +66,9 @@ class QuintaraForm : public QuintaraControls {
     Timer& opposite;   // the one that takes over at the edge
     double direction;  // 1 to the right, -1 to the left
   };
-  void cmdSearch_Click();
-  void tmrBounce_Timer();
-  void tmrBounce2_Timer();
+  void Search();
+  void DriftRight();
+  void DriftLeft();
   void DriftTarget(const Drift& drift);
   void SetTrackSpeed();
   void ShowProfilePicture();
@@ -78,7 +78,7 @@ class QuintaraForm : public QuintaraControls {
   void MeasureRange();
 
   // profile.cpp
-  void cmdMagnify_Click();
+  void Magnify();
   void ShowPanels();
   void ShowMaximumScore();
   void RaiseTerrain();
@@ -90,10 +90,10 @@ class QuintaraForm : public QuintaraControls {
   // laying.cpp
   enum class Laying { Elevation, Velocity };
   enum class PreviewOf { Laying, Drag };
-  void VScroll1_Change();
-  void VScroll2_Change();
-  void HScroll1_Change();
-  void cmdAdvanced_Click();
+  void LayElevation();
+  void LayVelocity();
+  void RepeatTimeToImpact();
+  void SwitchDrag();
   void LayGun(Laying changed);
   void TakeElevation();
   void TakeVelocity();
@@ -108,14 +108,13 @@ class QuintaraForm : public QuintaraControls {
   void PrepareBonusShot();
 
   // firing.cpp
-  void Image7_Click();
-  void tmrShell_Timer();
+  void Fire();
+  void FlyShell();
   void CountShell();
   void FireBonusShell();
   void MoveShell();
-  void Image7_MouseMove();
-  void Picture8_MouseMove();
-  void cmdReset_MouseMove();
+  void LightRing();
+  void DimRing();
 
   // collision.cpp
   void TestForImpact();
@@ -144,40 +143,40 @@ class QuintaraForm : public QuintaraControls {
   void Burst(const BurstRule& rule);
   void ChargeMiss();
   void StopFlight();
-  void Timer1_Timer();
+  void EndFlash();
   void ThrowFragments();
-  void tmrExplode_Timer();
+  void FlyFragments();
   void MoveFragment(std::size_t i);
 
   // states.cpp
-  void Form_QueryUnload();
-  void cmdReset_Click();
-  void cmdSound_Click();
-  void cmdCancel_Click();
+  void CloseSideForms();
+  void Reset();
+  void SwitchSound();
+  void LeaveGame();
   void LayGunAtRest();
   void TakeDownTarget();
   void StartNewGame();
   void UnloadScales();
 
   // help.cpp
-  void cmdHelp_Click();
-  void mnuIntro_Click();
-  void mnuScenario_Click();
-  void mnuRules_Click();
-  void mnuPhysics_Click();
-  void mnuCodeSegment_Click();
-  void mnuMasters_Click();
-  void mnuAbout_Click();
-  void mnuPrint_Click();
-  void mnuReadme_Click();
-  void cmdCloseReadme_Click();
-  void mnuUninstall_Click();
+  void OpenHelpMenu();
+  void ReadIntroduction();
+  void ReadScenario();
+  void ReadRules();
+  void ReadPhysics();
+  void ReadCode();
+  void ShowMasters();
+  void ShowAbout();
+  void ReadPrinting();
+  void OpenReadme();
+  void CloseReadme();
+  void ExplainUninstalling();
 
-  FormHandle<ProjectileForm> projectile;
-  FormHandle<TrajectoryForm> frmTrajectory;
-  FormHandle<MastersForm> frmMasters;
-  FormHandle<AnalysisForm> Analysis;
-  FormHandle<AboutForm> About;
+  FormHandle<ProjectileForm> bench_;
+  FormHandle<TrajectoryForm> simulator_;
+  FormHandle<MastersForm> masters_;
+  FormHandle<AnalysisForm> documents_;
+  FormHandle<AboutForm> about_;
 
   std::int16_t mShellArmed = 0;  // 1 lets shellTimer work
   std::int16_t mBonusShot = 0;   // 1: the bonus shot is armed

@@ -22,7 +22,7 @@ constexpr ProfileBand profileBands[] = {
 
 }  // namespace
 
-void QuintaraForm::cmdSearch_Click() {
+void QuintaraForm::Search() {
   flight.dt = 0.05;
   beam.X1 = 1800;
   beam.Y1 = 2040;
@@ -43,10 +43,10 @@ void QuintaraForm::cmdSearch_Click() {
   searchButton.Enabled = false;
 }
 
-void QuintaraForm::tmrBounce_Timer() {
+void QuintaraForm::DriftRight() {
   DriftTarget({driftRightTimer, driftLeftTimer, 1});
 }
-void QuintaraForm::tmrBounce2_Timer() {
+void QuintaraForm::DriftLeft() {
   DriftTarget({driftLeftTimer, driftRightTimer, -1});
 }
 

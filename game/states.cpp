@@ -4,25 +4,25 @@
 namespace quintara {
 
 // The program ends with its last form: closing this one takes the others along.
-void QuintaraForm::Form_QueryUnload() {
-  projectile.Unload();
-  frmTrajectory.Unload();
-  frmMasters.Unload();
-  Analysis.Unload();
-  About.Unload();
+void QuintaraForm::CloseSideForms() {
+  bench_.Unload();
+  simulator_.Unload();
+  masters_.Unload();
+  documents_.Unload();
+  about_.Unload();
 }
 
-void QuintaraForm::cmdCancel_Click() {
+void QuintaraForm::LeaveGame() {
   scene().End();
 }
 
-void QuintaraForm::cmdSound_Click() {
+void QuintaraForm::SwitchSound() {
   shared.soundIsOff = !shared.soundIsOff;
   soundButton.Caption = shared.soundIsOff ? "Sound OFF" : "Sound ON";
 }
 
 // On to the next target, or to a new game once the sixth shell is fired.
-void QuintaraForm::cmdReset_Click() {
+void QuintaraForm::Reset() {
   scope.Picture = Picture{};
   LayScopeGrid();
   mFragRun = {};
