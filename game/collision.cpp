@@ -29,9 +29,9 @@ bool LiesUnder(const OutlineSegment& segment, Single x, Single y) {
 // point of this tick counts: a fast shell may pass through a thin place between two ticks.
 void QuintaraForm::TestForImpact() {
   if (StrikesFoot()) {
-    BurstOnMountainFace();
-  } else if (StrikesOutline()) {
-    BurstOnProfile();
+    BurstOnFoot();
+  } else if (const std::optional<Single> slope = SlopeStruck()) {
+    BurstOnSlope(*slope);
   } else if (StrikesTarget()) {
     HitTarget();
   } else if (flight.y < 0 && flight.x > 10000) {
@@ -39,16 +39,17 @@ void QuintaraForm::TestForImpact() {
   }
 }
 
-bool QuintaraForm::StrikesFoot() {
+bool QuintaraForm::StrikesFoot() const {
   const Single centre = shells(0).Left + shells(0).Width / 2;
-  const Single lowerEdge =
-      shells(0).Top + shells(0).Width;  // by the Width, as the reach of the foot was tuned
-  // slope6.X2 counts in mountain and is compared as it stands, without mountain.Left: the foot reaches to
-  // 3460.
+  // By the Width, as the reach of the foot was tuned.
+  const Single lowerEdge = shells(0).Top + shells(0).Width;
+  // slope6.X2 counts in the mountain's box and is compared as it stands, without mountain.Left: the foot
+  // reaches to 3460.
   return centre > mountainFoot.X1 && centre < slope6.X2 && lowerEdge > mountainFoot.Y1;
 }
 
-bool QuintaraForm::StrikesOutline() {
+// The angle of the slope that the shell strikes, in radians; none where it strikes none.
+std::optional<Single> QuintaraForm::SlopeStruck() const {
   // The run of a slope is meant to be the next segment's; only the last one has its own. The fans lean by it.
   const OutlineSegment outline[] = {{slope1, slope2, true},  {slope2, slope3, true},
                                     {slope3, slope4, true},  {slope4, slope5, false},
@@ -57,24 +58,23 @@ bool QuintaraForm::StrikesOutline() {
   const Single y = shells(1).Top + shells(1).Width / 2;
   for (const OutlineSegment& segment : outline) {
     if (!LiesUnder(segment, x, y)) continue;
-    mImpactSlope = Atn((segment.line.Y1 - segment.line.Y2) / (segment.run.X2 - segment.run.X1));
-    return true;
+    return Atn((segment.line.Y1 - segment.line.Y2) / (segment.run.X2 - segment.run.X1));
   }
-  return false;
+  return std::nullopt;
 }
 
-bool QuintaraForm::StrikesTarget() {
-  return flight.y < 0 && flight.x > Single(mTargetKm * 1000 - 400) &&
-         flight.x < Single(mTargetKm * 1000 + 200);
+bool QuintaraForm::StrikesTarget() const {
+  return flight.y < 0 && flight.x > Single(targetKm_ * 1000 - 400) &&
+         flight.x < Single(targetKm_ * 1000 + 200);
 }
 
 void QuintaraForm::HitTarget() {
   bestScore.Visible = false;
-  if (mDragOn == 0) {
-    score.Caption = ToText(Val(score.Caption) + 5);
-  } else {
+  if (dragIsOn_) {
     score.Caption = ToText(Val(score.Caption) + 10);
-    mDragOn = 0;
+    dragIsOn_ = false;
+  } else {
+    score.Caption = ToText(Val(score.Caption) + 5);
   }
 
   if (shotsFired.Caption == "5") {
@@ -82,11 +82,11 @@ void QuintaraForm::HitTarget() {
     dragButton.Caption = "OFF";
     dragButton.Enabled = false;
     dragConstant.Caption = "0";
-    mBonusShot = 1;
+    bonusShot_ = true;
   } else {
     ShowNormalHeader();
   }
-  if (Val(shotsFired.Caption) == 6 && Val(score.Caption) >= 35 && mBonusShot == 1) OfferListOfMasters();
+  if (Val(shotsFired.Caption) == 6 && Val(score.Caption) >= 35 && bonusShot_) OfferListOfMasters();
 
   rangeBar.Visible = false;
   heightBar.Visible = false;
@@ -98,8 +98,7 @@ void QuintaraForm::HitTarget() {
   shared.PlayUnlessSoundIsOff(scene(), "bombex~2.wav");
   ThrowFragments();
 
-  flashTimer.Enabled = true;
-  flashTimer.Interval = 400;
+  StartFlash();
   StopFlight();
   fragmentTimer.Enabled = true;
 }

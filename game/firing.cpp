@@ -12,22 +12,25 @@ constexpr Colour ringLit = 0xFFFFFF;
 // Fires whatever is in the gun, also while a shell is in the air: that one is lost and the next one used up.
 void QuintaraForm::Fire() {
   fireRing.BorderColor = ringAtRest;
-  mShellArmed = 1;
+  shellIsArmed_ = true;
   sightLine.Visible = false;
-  gElevationRad = (Val(elevation.Caption) * 3.1416) / 180;  // 3.1416 is the game's pi
-  gMuzzleVelocity = Val(velocity.Caption);
-  Launch(flight, gMuzzleVelocity, gElevationRad);
-  flight.dt = flightTimeBar.Value * 0.059;
+  TakeLaying();
+  Launch(flight, muzzleVelocity_, muzzleElevation_);
+  flight.dt = flightTimeBar.Value * finestStep;
   shellTimer.Interval = 17;
   shellTimer.Enabled = true;
 
   muzzleFlash.Visible = true;
-  flashTimer.Interval = 400;
-  flashTimer.Enabled = true;
+  StartFlash();
   shared.PlayUnlessSoundIsOff(scene(), "biggun.wav");
 
   CountShell();
-  if (Val(shotsFired.Caption) == 5) PrepareBonusShot();
+  if (Val(shotsFired.Caption) == 5) bonusShot_ = true;
+}
+
+void QuintaraForm::StartFlash() {
+  flashTimer.Interval = 400;
+  flashTimer.Enabled = true;
 }
 
 void QuintaraForm::CountShell() {
@@ -35,13 +38,13 @@ void QuintaraForm::CountShell() {
     FireBonusShell();
     return;
   }
-  const double shell = Val(shellInGun.Caption);
-  for (std::int16_t n = 5; n >= 1; --n) {
-    if (shell != n) continue;
-    shellInGun.Caption = ToText(n + 1);
-    shotsFired.Caption = ToText(n);
-    shellMarks(static_cast<std::int16_t>(5 - n)).Visible =
-        false;  // the marks go from the top of the column down
+  // The marks go from the top of the column down. A caption that names no shell counts none.
+  const double inGun = Val(shellInGun.Caption);
+  for (std::int16_t shell = 1, mark = shellMarkCount - 1; mark >= 0; ++shell, --mark) {
+    if (shell != inGun) continue;
+    shellInGun.Caption = ToText(shell + 1);
+    shotsFired.Caption = ToText(shell);
+    shellMarks(mark).Visible = false;
   }
 }
 
@@ -53,6 +56,10 @@ void QuintaraForm::FireBonusShell() {
   mountain.Cls();
   resetButton.Enabled = true;
   advice.Caption = " Click Reset to start a new game";
+  LockGun();
+}
+
+void QuintaraForm::LockGun() {
   fireButton.Enabled = false;
   elevationBar.Enabled = false;
   velocityBar.Enabled = false;
@@ -60,14 +67,14 @@ void QuintaraForm::FireBonusShell() {
 }
 
 void QuintaraForm::FlyShell() {
-  if (mShellArmed != 1) return;
+  if (!shellIsArmed_) return;
   if (flight.y < 0) {
     // The shell is under ground and nothing was hit: the flight ends, but this tick still runs to its end and
     // may hit something after all.
     StopFlight();
     shells(0).Visible = false;
   }
-  flight.dt = flightTimeBar.Value * 0.059;
+  flight.dt = flightTimeBar.Value * finestStep;
   BallisticStep(flight, Val(dragConstant.Caption));
   MoveShell();
   TestForImpact();
@@ -76,11 +83,12 @@ void QuintaraForm::FlyShell() {
 // The shell has two markers, since a picture box hides what lies behind it: shells(0) in the open, and
 // shells(1) inside the mountain's box.
 void QuintaraForm::MoveShell() {
-  shells(0).Left = flight.x * 0.438;
-  shells(0).Top = 9250 - flight.y * 0.55;
+  const Place inProfile = InProfile(flight.x, flight.y), inMountain = InMountain(flight.x, flight.y);
+  shells(0).Left = inProfile.x;
+  shells(0).Top = inProfile.y;
   shells(1).Visible = true;
-  shells(1).Left = flight.x * 0.438 - 790;
-  shells(1).Top = (mProfileHeight + 640) - flight.y * 0.55;
+  shells(1).Left = inMountain.x;
+  shells(1).Top = inMountain.y;
 
   // The range bar grows to the end; the height bar stays where the shell was highest.
   rangeBar.X1 = shells(0).Left + 380;
@@ -88,6 +96,15 @@ void QuintaraForm::MoveShell() {
   heightBar.Visible = true;
   if (flight.vy > 0) heightBar.Y2 = shells(0).Top;
   shells(0).Visible = true;
+}
+
+// Where the marker of a shell stands that is at this place, in metres: in the profile, and in the mountain's
+// box, which has its own origin.
+QuintaraForm::Place QuintaraForm::InProfile(Single x, Single y) {
+  return {x * 0.438, 9250 - y * 0.55};
+}
+QuintaraForm::Place QuintaraForm::InMountain(Single x, Single y) const {
+  return {x * 0.438 - 790, mountainHeight_ + 640 - y * 0.55};
 }
 
 void QuintaraForm::LightRing() {

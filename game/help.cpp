@@ -4,27 +4,21 @@
 
 namespace quintara {
 
-void QuintaraForm::OpenHelpMenu() {
-  PopupMenu(helpMenu, 13200, 6680);
+void QuintaraForm::BindDocuments() {
+  const struct {
+    Menu& item;
+    HelpTopic topic;
+  } rows[] = {{introductionItem, HelpTopic::Introduction},
+              {scenarioItem, HelpTopic::Scenario},
+              {rulesItem, HelpTopic::Rules},
+              {physicsItem, HelpTopic::Physics},
+              {codeItem, HelpTopic::Code},
+              {printingItem, HelpTopic::Printing}};
+  for (const auto& row : rows) row.item.Click.Bind([this, topic = row.topic] { documents_->Open(topic); });
 }
 
-void QuintaraForm::ReadIntroduction() {
-  documents_->Open(HelpTopic::Introduction);
-}
-void QuintaraForm::ReadScenario() {
-  documents_->Open(HelpTopic::Scenario);
-}
-void QuintaraForm::ReadRules() {
-  documents_->Open(HelpTopic::Rules);
-}
-void QuintaraForm::ReadPhysics() {
-  documents_->Open(HelpTopic::Physics);
-}
-void QuintaraForm::ReadCode() {
-  documents_->Open(HelpTopic::Code);
-}
-void QuintaraForm::ReadPrinting() {
-  documents_->Open(HelpTopic::Printing);
+void QuintaraForm::OpenHelpMenu() {
+  PopupMenu(helpMenu, 13200, 6680);
 }
 
 void QuintaraForm::ShowMasters() {

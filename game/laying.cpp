@@ -28,36 +28,46 @@ void QuintaraForm::LayGun(Laying changed) {
   rangeBar.Visible = false;
   heightBar.Visible = false;
   DrawBarrel();
-  DrawSightLines();
-  if (mBonusShot == 0) sightLine.Visible = true;
+  DrawFlashAndSightLine();
+  if (!bonusShot_) sightLine.Visible = true;
   if (changed == Laying::Velocity) TakeVelocity();
-  if (mBonusShot == 1) ClearProfileForPlot();
+  if (bonusShot_) ClearProfileForPlot();
 
-  gElevationRad = Val(elevation.Caption) * 3.1416 / 180;
-  gMuzzleVelocity = Val(velocity.Caption);
-  Preview(flightTimeBar.Value * 0.059, PreviewOf::Laying);
+  TakeLaying();
+  Preview(flightTimeBar.Value * finestStep, PreviewOf::Laying);
 }
 
 void QuintaraForm::TakeElevation() {
-  gElevationScroll = elevationBar.Value.Get();
-  elevation.Caption = ToText(Single(370 - gElevationScroll));
-  gBarrelRad = Val(elevation.Caption) * 3.1416 / 180;
+  elevation.Caption = ToText(370 - elevationBar.Value);
+}
+
+// In radians, by the caption.
+Single QuintaraForm::LaidElevation() const {
+  return Val(elevation.Caption) * pi / 180;
+}
+
+// What is fired or previewed is what the captions say.
+void QuintaraForm::TakeLaying() {
+  muzzleElevation_ = LaidElevation();
+  muzzleVelocity_ = Val(velocity.Caption);
 }
 
 void QuintaraForm::DrawBarrel() {
-  barrel.X1 = Cos(gBarrelRad) * 100 + 110;
-  barrel.Y1 = 530 - Sin(gBarrelRad) * 100;
-  barrel.X2 = Cos(gBarrelRad) * 300 + 110;
-  barrel.Y2 = 530 - Sin(gBarrelRad) * 300;
+  const Single angle = LaidElevation();
+  barrel.X1 = Cos(angle) * 100 + 110;
+  barrel.Y1 = 530 - Sin(angle) * 100;
+  barrel.X2 = Cos(angle) * 300 + 110;
+  barrel.Y2 = 530 - Sin(angle) * 300;
 }
 
-void QuintaraForm::DrawSightLines() {
-  muzzleFlash.X1 = Cos(gBarrelRad) * 400 + 110;
-  muzzleFlash.Y1 = 530 - Sin(gBarrelRad) * 400;
+void QuintaraForm::DrawFlashAndSightLine() {
+  const Single angle = LaidElevation();
+  muzzleFlash.X1 = Cos(angle) * 400 + 110;
+  muzzleFlash.Y1 = 530 - Sin(angle) * 400;
   muzzleFlash.X2 = barrel.X2;
   muzzleFlash.Y2 = barrel.Y2;
-  sightLine.X2 = Cos(gBarrelRad) * 1000;
-  sightLine.Y2 = 9200 - Sin(gBarrelRad) * 1000;
+  sightLine.X2 = Cos(angle) * 1000;
+  sightLine.Y2 = 9200 - Sin(angle) * 1000;
 }
 
 // The shell picture is a gauge of the velocity: it grows upwards from its foot at 870.
@@ -72,17 +82,19 @@ void QuintaraForm::ClearProfileForPlot() {
   rangeUnit.Visible = false;
   heightUnit.Visible = false;
   // Element 0 of each scale stays. Where a Reset has unloaded the others, none is left to hide.
-  const auto hide = [](auto& elements, std::int16_t i) {
-    if (elements.Has(i)) elements(i).Visible = false;
+  const auto hide = [](auto& elements, std::int16_t km) {
+    if (elements.Has(km)) elements(km).Visible = false;
   };
-  for (gLoopIndex = 1; gLoopIndex <= 33; ++gLoopIndex) {
-    hide(rangeNumbers, gLoopIndex);
-    hide(rangeTicks, gLoopIndex);
+  for (std::int16_t km = 1; km <= rangeScaleEnd; ++km) {
+    hide(rangeNumbers, km);
+    hide(rangeTicks, km);
   }
-  for (gLoopIndex = 1; gLoopIndex <= 16; ++gLoopIndex) {
-    hide(heightNumbers, gLoopIndex);
-    hide(heightTicks, gLoopIndex);
+  for (std::int16_t km = 1; km <= heightScaleEnd; ++km) {
+    hide(heightNumbers, km);
+    hide(heightTicks, km);
   }
+  // Nothing moves by this: only the numbers change by which the places of the form's own boxes are told from
+  // here on.
   ScaleMode = 3;
   ScaleWidth = 15225;
   ScaleHeight = 11100;
@@ -96,25 +108,24 @@ void QuintaraForm::ClearProfileForPlot() {
 // ground: it leaves the flight variables far below, and only the time caption and the plot stop following
 // there.
 void QuintaraForm::Preview(double dt, PreviewOf previewed) {
-  const bool plots = previewed == PreviewOf::Laying && mBonusShot == 1;
-  Launch(flight, gMuzzleVelocity, gElevationRad);
+  const bool plots = previewed == PreviewOf::Laying && bonusShot_;
+  Launch(flight, muzzleVelocity_, muzzleElevation_);
   flight.dt = dt;
-  gStepCount = 1;
   Flight shell = flight;
   const double k = Val(dragConstant.Caption);
   Single lastAboveGround = -1;
-  const std::int16_t end = EndOfSteps(gMuzzleVelocity);
-  for (; gStepCount < end; ++gStepCount) {
+  const std::int16_t end = EndOfSteps(muzzleVelocity_);
+  for (std::int16_t step = 1; step < end; ++step) {
     BallisticStep(shell, k);
     if (shell.y > 0) lastAboveGround = shell.time;
     if (plots) PlotShell(shell.x, shell.y);
   }
   flight = shell;
   if (lastAboveGround >= 0) {
-    if (previewed == PreviewOf::Laying) mImpactSeconds = Int(lastAboveGround);
+    if (previewed == PreviewOf::Laying) impactSeconds_ = Int(lastAboveGround);
     ShowTimeToImpact(lastAboveGround);
   }
-  if (plots && gStepCount > 1) advice.Caption = bonusLayingText;
+  if (plots && end > 1) advice.Caption = bonusLayingText;
 }
 
 void QuintaraForm::ShowTimeToImpact(Single seconds) {
@@ -123,32 +134,33 @@ void QuintaraForm::ShowTimeToImpact(Single seconds) {
 
 // Marks the two places where the shell's markers would stand.
 void QuintaraForm::PlotShell(Single x, Single y) {
-  profile.PSet(x * 0.438, 9250 - y * 0.55, QBColor(6));
-  mountain.PSet(x * 0.438 - 790, mProfileHeight + 640 - y * 0.55, QBColor(6));
+  const Place inProfile = InProfile(x, y), inMountain = InMountain(x, y);
+  profile.PSet(inProfile.x, inProfile.y, QBColor(6));
+  mountain.PSet(inMountain.x, inMountain.y, QBColor(6));
 }
 
 // Only the caption: the new setting counts from the next preview or flight step on.
 void QuintaraForm::RepeatTimeToImpact() {
-  ShowTimeToImpact(mImpactSeconds);
+  ShowTimeToImpact(impactSeconds_);
 }
 
 void QuintaraForm::SwitchDrag() {
-  if (mDragOn == 0) {
-    TurnDragOn();
-  } else {
+  if (dragIsOn_) {
     TurnDragOff();
+  } else {
+    TurnDragOn();
   }
 }
 
 void QuintaraForm::TurnDragOn() {
-  mDragOn = 1;
+  dragIsOn_ = true;
   scene().Randomize();
   dragConstant.Caption = ToText(Single(Int(scene().Rnd() * 10 + 1) / 1000));
   dragButton.Caption = "ON";
   dragButton.Enabled = false;
   bestScore.Caption = ToText(Val(bestScore.Caption) + 5);
   // The finest step, whatever flightTimeBar says, and the velocity and elevation as they were left.
-  Preview(0.059, PreviewOf::Drag);
+  Preview(finestStep, PreviewOf::Drag);
 }
 
 // Comes about only where a Reset has enabled the button of a drag that was turned on among the fragments of a
@@ -156,15 +168,9 @@ void QuintaraForm::TurnDragOn() {
 void QuintaraForm::TurnDragOff() {
   ShowTimeToImpact(flight.time);
   dragButton.Caption = "OFF";
-  mDragOn = 0;
+  dragIsOn_ = false;
   dragConstant.Caption = "0";
   bestScore.Caption = ToText(Val(bestScore.Caption) - (5 - Val(shotsFired.Caption)) * 5);
-}
-
-void QuintaraForm::PrepareBonusShot() {
-  mBonusShot = 1;
-  gElevationRad = Val(elevation.Caption) * 3.1416 / 180;
-  gMuzzleVelocity = Val(velocity.Caption);
 }
 
 }  // namespace quintara

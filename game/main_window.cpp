@@ -7,47 +7,46 @@ void QuintaraForm::SetUp() {
   Left = (scene().ScreenWidth() - Width) / 2;
   Top = (scene().ScreenHeight() - Height) / 2 - 200;  // a little above the centre
   landscape.Visible = true;
-  SetAppFolder();
+  FindProgramFolder();
   flightTimeBar.Value = 15;
   StoreFlightTimeSetting();
-  mShellArmed = 0;
+  shellIsArmed_ = false;
 
-  for (gLoopIndex = 1; gLoopIndex <= 4; ++gLoopIndex) {
-    scopeRows.Load(gLoopIndex);
-    scopeRows(gLoopIndex).Visible = true;
-    shellMarks.Load(gLoopIndex);
-    shellMarks(gLoopIndex).Visible = true;
-  }
-  for (gLoopIndex = 1; gLoopIndex <= 6; ++gLoopIndex) {
-    scopeColumns.Load(gLoopIndex);
-    scopeColumns(gLoopIndex).Visible = true;
-  }
+  const auto load = [](auto& elements, std::int16_t i) {
+    elements.Load(i);
+    elements(i).Visible = true;
+  };
+  for (std::int16_t row = 1; row <= scopeRowCount; ++row) load(scopeRows, row);
+  for (std::int16_t column = 1; column <= scopeColumnCount; ++column) load(scopeColumns, column);
   LayScopeGrid();
 
-  // The first step up the column of shells is shorter than the others: shellMarks(0) stands at 700.
-  for (gLoopIndex = 1; gLoopIndex <= 4; ++gLoopIndex) shellMarks(gLoopIndex).Top = 735 - 135 * gLoopIndex;
-  DrawFragmentWidths();
+  // The first step up the column of marks is shorter than the others: shellMarks(0) stands at 700.
+  for (std::int16_t mark = 1; mark < shellMarkCount; ++mark) {
+    load(shellMarks, mark);
+    shellMarks(mark).Top = 735 - 135 * mark;
+  }
+  RandomizeFragmentWidths();
 }
 
 // All data files are found through shared.programFolder. At the root of a drive the path ends in the
 // separator already.
-void QuintaraForm::SetAppFolder() {
+void QuintaraForm::FindProgramFolder() {
   shared.programFolder = scene().AppPath();
   if (Right(shared.programFolder, 1) != "\\") shared.programFolder += "\\";
 }
 
 void QuintaraForm::LayScopeGrid() {
-  for (gLoopIndex = 1; gLoopIndex <= 4; ++gLoopIndex) {
-    scopeRows(gLoopIndex).Y1 = 60 + 90 * gLoopIndex;
-    scopeRows(gLoopIndex).Y2 = 60 + 90 * gLoopIndex;
+  for (std::int16_t row = 1; row <= scopeRowCount; ++row) {
+    scopeRows(row).Y1 = 60 + 90 * row;
+    scopeRows(row).Y2 = 60 + 90 * row;
   }
-  for (gLoopIndex = 1; gLoopIndex <= 6; ++gLoopIndex) {
-    scopeColumns(gLoopIndex).X1 = 80 + 90 * gLoopIndex;
-    scopeColumns(gLoopIndex).X2 = 80 + 90 * gLoopIndex;
+  for (std::int16_t column = 1; column <= scopeColumnCount; ++column) {
+    scopeColumns(column).X1 = 80 + 90 * column;
+    scopeColumns(column).X2 = 80 + 90 * column;
   }
 }
 
-void QuintaraForm::DrawFragmentWidths() {
+void QuintaraForm::RandomizeFragmentWidths() {
   scene().Randomize();
   for (Shape* fragment : Fragments()) fragment->Width = Int(scene().Rnd() * 50 + 30);
 }

@@ -10,7 +10,7 @@ void QuintaraForm::Magnify() {
       " Adjust Muzzle Elevation Angle       and Muzzle Velocity. If Drag is       desired, click the OFF "
       "button.        Then, click the red Fire button.";
   ShowPanels();
-  ShowMaximumScore();
+  ShowBestScore();
   // The setting of the last target. A record that is no number, or none in range, counts as the nearest
   // bound.
   if (const auto record = scene().files().ReadRecord(shared.programFolder + "extra.txt", 5)) {
@@ -19,7 +19,7 @@ void QuintaraForm::Magnify() {
 
   RaiseTerrain();
   LayOutline();
-  targetPicture.Left = mTargetKm * 446 - 390;
+  targetPicture.Left = targetKm_ * 446 - 390;
   targetPicture.Visible = true;
   targetOnScale.Left = targetPicture.Left + 340;
   targetOnScale.Visible = true;
@@ -27,8 +27,11 @@ void QuintaraForm::Magnify() {
 
   TakeElevation();
   DrawBarrel();
-  if (mBonusShot == 1) ShowBonusHeader(bonusNextStep);
-  if (mBonusShot == 0) ShowNormalHeader();
+  if (bonusShot_) {
+    ShowBonusHeader(bonusNextStep);
+  } else {
+    ShowNormalHeader();
+  }
 }
 
 void QuintaraForm::ShowPanels() {
@@ -45,7 +48,7 @@ void QuintaraForm::ShowPanels() {
   shellInGun.Visible = true;
 }
 
-void QuintaraForm::ShowMaximumScore() {
+void QuintaraForm::ShowBestScore() {
   const double shell = Val(shellInGun.Caption);
   const double actual = Val(score.Caption);
   if (shell <= 5) {
@@ -57,11 +60,11 @@ void QuintaraForm::ShowMaximumScore() {
 
 void QuintaraForm::RaiseTerrain() {
   backdrop.Top = 480;
-  backdrop.Height = (mTargetKm + 18) / 0.0125;
-  backdropPicture.Height = (mTargetKm + 18) / 0.0125;
-  mProfileHeight = CInt(mTargetKm * 136 - 500);
-  mountain.Height = mProfileHeight;
-  mountainPicture.Height = mProfileHeight + 20;
+  backdrop.Height = (targetKm_ + 18) / 0.0125;
+  backdropPicture.Height = (targetKm_ + 18) / 0.0125;
+  mountainHeight_ = CInt(targetKm_ * 136 - 500);
+  mountain.Height = mountainHeight_;
+  mountainPicture.Height = mountainHeight_ + 20;
   mountain.Top = 8640 - mountain.Height;  // the mountain's foot stands at 8640 for every range
 }
 
@@ -70,15 +73,15 @@ void QuintaraForm::RaiseTerrain() {
 void QuintaraForm::LayOutline() {
   slope1.X1 = mountainPicture.Left;
   slope1.Y1 = mountainPicture.Height + mountainPicture.Top;
-  slope1.Y2 = mProfileHeight * 0.7;
+  slope1.Y2 = mountainHeight_ * 0.7;
   slope2.Y1 = slope1.Y2;
-  slope2.Y2 = mProfileHeight * 0.2;
+  slope2.Y2 = mountainHeight_ * 0.2;
   slope3.Y1 = slope2.Y2;
-  slope3.Y2 = mProfileHeight * 0.12;
+  slope3.Y2 = mountainHeight_ * 0.12;
   slope4.Y1 = slope3.Y2;
-  slope4.Y2 = mProfileHeight * 0.2;
+  slope4.Y2 = mountainHeight_ * 0.2;
   slope5.Y1 = slope4.Y2;
-  slope5.Y2 = mProfileHeight * 0.75;
+  slope5.Y2 = mountainHeight_ * 0.75;
   slope6.Y1 = slope5.Y2;
   slope6.X2 = mountainPicture.Width + mountainPicture.Left;
   slope6.Y2 = mountainPicture.Height + mountainPicture.Top;
@@ -89,25 +92,25 @@ void QuintaraForm::BuildScales() {
   rangeNumbers(0).Visible = true;
   heightNumbers(0).Visible = true;
   heightUnit.Visible = true;
-  for (gLoopIndex = 1; gLoopIndex <= 33; ++gLoopIndex) {
-    rangeNumbers.Load(gLoopIndex);
-    rangeTicks.Load(gLoopIndex);
-    rangeNumbers(gLoopIndex).Left = gLoopIndex * 438 + 240;
-    rangeNumbers(gLoopIndex).Caption = ToText(gLoopIndex);
-    rangeNumbers(gLoopIndex).Visible = true;
-    rangeTicks(gLoopIndex).X1 = gLoopIndex * 438 + 350;
-    rangeTicks(gLoopIndex).X2 = gLoopIndex * 438 + 350;
-    rangeTicks(gLoopIndex).Visible = true;
+  for (std::int16_t km = 1; km <= rangeScaleEnd; ++km) {
+    rangeNumbers.Load(km);
+    rangeTicks.Load(km);
+    rangeNumbers(km).Left = km * 438 + 240;
+    rangeNumbers(km).Caption = ToText(km);
+    rangeNumbers(km).Visible = true;
+    rangeTicks(km).X1 = km * 438 + 350;
+    rangeTicks(km).X2 = km * 438 + 350;
+    rangeTicks(km).Visible = true;
   }
-  for (gLoopIndex = 1; gLoopIndex <= 16; ++gLoopIndex) {
-    heightNumbers.Load(gLoopIndex);
-    heightTicks.Load(gLoopIndex);
-    heightNumbers(gLoopIndex).Top = 9100 - gLoopIndex * 542;
-    heightNumbers(gLoopIndex).Caption = ToText(gLoopIndex);
-    heightNumbers(gLoopIndex).Visible = true;
-    heightTicks(gLoopIndex).Y1 = 9200 - gLoopIndex * 542;
-    heightTicks(gLoopIndex).Y2 = 9200 - gLoopIndex * 542;
-    heightTicks(gLoopIndex).Visible = true;
+  for (std::int16_t km = 1; km <= heightScaleEnd; ++km) {
+    heightNumbers.Load(km);
+    heightTicks.Load(km);
+    heightNumbers(km).Top = 9100 - km * 542;
+    heightNumbers(km).Caption = ToText(km);
+    heightNumbers(km).Visible = true;
+    heightTicks(km).Y1 = 9200 - km * 542;
+    heightTicks(km).Y2 = 9200 - km * 542;
+    heightTicks(km).Visible = true;
   }
   rangeTicks(0).Visible = true;
   heightTicks(0).Visible = true;

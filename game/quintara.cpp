@@ -12,7 +12,6 @@ QuintaraForm::QuintaraForm(Scene& owner, const SideForms& sideForms)
   Bind(Load, &QuintaraForm::SetUp);
   Bind(QueryUnload, &QuintaraForm::CloseSideForms);
   Bind(resetButton.Click, &QuintaraForm::Reset);
-  Bind(resetButton.MouseMove, &QuintaraForm::DimRing);
   Bind(soundButton.Click, &QuintaraForm::SwitchSound);
   Bind(cancelButton.Click, &QuintaraForm::LeaveGame);
 
@@ -29,19 +28,15 @@ QuintaraForm::QuintaraForm(Scene& owner, const SideForms& sideForms)
   Bind(fireButton.Click, &QuintaraForm::Fire);
   Bind(fireButton.MouseMove, &QuintaraForm::LightRing);
   Bind(firingPanel.MouseMove, &QuintaraForm::DimRing);
+  Bind(resetButton.MouseMove, &QuintaraForm::DimRing);
   Bind(shellTimer.Tick, &QuintaraForm::FlyShell);
   Bind(flashTimer.Tick, &QuintaraForm::EndFlash);
   Bind(fragmentTimer.Tick, &QuintaraForm::FlyFragments);
 
   Bind(helpButton.Click, &QuintaraForm::OpenHelpMenu);
-  Bind(introductionItem.Click, &QuintaraForm::ReadIntroduction);
-  Bind(scenarioItem.Click, &QuintaraForm::ReadScenario);
-  Bind(rulesItem.Click, &QuintaraForm::ReadRules);
-  Bind(physicsItem.Click, &QuintaraForm::ReadPhysics);
-  Bind(codeItem.Click, &QuintaraForm::ReadCode);
+  BindDocuments();
   Bind(mastersItem.Click, &QuintaraForm::ShowMasters);
   Bind(aboutItem.Click, &QuintaraForm::ShowAbout);
-  Bind(printingItem.Click, &QuintaraForm::ReadPrinting);
   Bind(readmeItem.Click, &QuintaraForm::OpenReadme);
   Bind(closeReadmeButton.Click, &QuintaraForm::CloseReadme);
   Bind(uninstallItem.Click, &QuintaraForm::ExplainUninstalling);

@@ -8,6 +8,9 @@ namespace quintara {
 // children are console, profile and landscape. Places are in twips: left, top, width, height, or the two
 // ends of a line. The game's rules read many of these numbers back; a line that is never shown may well be
 // the mountain.
+//
+// A member is called by what its control is for. The text beside it is the control's own name, by which the
+// host, its scripts and reports know it, and never changes. A control that no code reads has no other.
 class QuintaraControls : public Form {
  protected:
   explicit QuintaraControls(Scene& scene)
@@ -43,7 +46,7 @@ class QuintaraControls : public Form {
   ControlArray<Label> rangeNumbers {*this, "Label3"};
   ControlArray<Label> heightNumbers{*this, "Label7"};
 
-  // The console strip.
+  // console: the strip along the lower edge, which is always there.
   PictureBox console{*this, "Picture1", {  0, 9600, 15255, 1095}};
   CommandButton cancelButton {console, "cmdCancel",   {14280, 585,  840,  300}, {.caption = "Cancel"}};
   CommandButton helpButton   {console, "cmdHelp",     {14280, 120,  840,  300}, {.caption = "Help"}};
@@ -62,7 +65,7 @@ class QuintaraControls : public Form {
   Label         scoreBoard   {console, "Label12",     {11000,  45, 2055,  960}, {.visible = false, .caption = "  SHOTS      SCORE      FIRED", .framed = true, .backColor = 0x80000001, .foreColor = 0x80000005, .font = sans975Bold}};
   Label         advice       {console, "Label4",      { 7850,  50, 3030,  960}, {.caption = " To start Laser Radar Target          Aquisition, click Search (S)", .framed = true, .backColor = 0x80000018, .font = system825Bold}};
 
-  // radarPanel: the radar panel, with the scope and its grid.
+  // radarPanel, with the scope and its grid.
   PictureBox scope         {radarPanel, "Picture4",         {120, 120, 735, 550}, {.backColor = 0x00000000}};
   Line       scopeRows_0   {scope,      scopeRows.At(0),    {  0,  60, 680,  60}, {.borderColor = 0x00FFFFFF}};
   Line       scopeColumns_0{scope,      scopeColumns.At(0), { 80,   0,  80, 480}, {.borderColor = 0x00FFFFFF}};
@@ -70,7 +73,7 @@ class QuintaraControls : public Form {
   SSCommand  searchButton  {radarPanel, "cmdSearch",        {960, 120, 255, 255}, {.caption = "S", .foreColor = 0x00000000, .font = sans825Bold}};
   Label      Label2        {radarPanel, "Label2",           { 50, 705, 1095, 165}, {.caption = "Terrain Profile", .backColor = 0x00C0C0C0, .font = sans675}};
 
-  // firingPanel: the firing console.
+  // firingPanel, from the mortar to the Fire button.
   HScrollBar flightTimeBar{firingPanel, "HScroll1",       {3310, 240,  835, 200}, {.min =   1, .max =  15, .smallChange =  1, .largeChange =  1, .value =  15}};
   VScrollBar elevationBar {firingPanel, "VScroll1",       {1270,  60,  255, 795}, {.min = 290, .max = 340, .smallChange =  1, .largeChange = 10, .value = 340}};
   VScrollBar velocityBar  {firingPanel, "VScroll2",       {2200,  60,  255, 795}, {.min = 750, .max = 250, .smallChange = 10, .largeChange = 10, .value = 250}};
@@ -102,7 +105,7 @@ class QuintaraControls : public Form {
   Label      timeToImpact {firingPanel, "Label31",        {3120, 500, 1335, 420}, {.caption = "Real time to impact:", .font = sans675}};
   Image      Image3       {firingPanel, "Image3",         {   0,   0,  585, 960}, {.picture = "mortar"}};
 
-  // The profile view.
+  // profile: the view between gun and target.
   PictureBox profile{*this, "Picture5", {400,    0, 15255, 9250}, {.visible = false, .backColor = 0x00FFC0C0}};
   PictureBox mountain     {profile, "Picture11",   { 790, 4670,  3460, 3970}};
   PictureBox backdrop     {profile, "Picture10",   {   0,  480, 15000, 3800}, {.backColor = 0x00FFC0C0}};
@@ -125,7 +128,7 @@ class QuintaraControls : public Form {
   Image      targetPicture{profile, "Image5",      {7000, 9065,   255,  135}, {.picture = "target", .stretch = true, .visible = false}};
   Image      Image4       {profile, "Image4",      {   0, 8620, 15270,  690}, {.picture = "ground", .enabled = false}};
 
-  // mountain: the mountain box. slope1, slope2, slope3, slope4, slope5 and slope6 are its outline, near to far.
+  // mountain: a box in the profile. slope1 to slope6 are its outline, near to far.
   Line  slope6         {mountain, "Line35",     {2760, 3000, 3360, 3960}, {.visible = false}};
   Line  slope5         {mountain, "Line34",     {1560,  600, 2760, 3000}, {.visible = false}};
   Line  slope4         {mountain, "Line33",     {1320,  600, 1560,  600}, {.visible = false}};
@@ -138,10 +141,10 @@ class QuintaraControls : public Form {
   Line  slope1         {mountain, "Line27",     {   0, 3980,  600, 2760}, {.visible = false}};
   Image mountainPicture{mountain, "Image1",     {   0,    0, 3460, 4000}, {.picture = "mountain", .stretch = true}};
 
-  // backdrop: the distant backdrop.
+  // backdrop: what lies behind the mountain.
   Image backdropPicture{backdrop, "Image9", {0, 0, 15000, 3800}, {.picture = "backdrop", .stretch = true}};
 
-  // The landscape with the radar's target on it.
+  // landscape, with the radar's target on it.
   PictureBox landscape{*this, "Picture2", {  0,    0, 15255, 9615}, {.picture = "landscape"}};
   CommandButton closeReadmeButton{landscape, "cmdCloseReadme", {3360, 5040,  615,  255}, {.visible = false, .caption = "Close", .font = sans975}};
   RichTextBox   readme           {landscape, "txtReadme",      {2400, 4080, 1935, 1455}, {.visible = false, .backColor = 0x80000018}};
@@ -155,21 +158,21 @@ class QuintaraControls : public Form {
   Line          mortarMark       {landscape, "Line17",         {1810, 1320, 1825, 1335}, {.visible = false, .borderWidth = 3}};
   Image         mortarTag        {landscape, "Image2",         {1280,  650,  615,  195}, {.picture = "mortar_tag", .visible = false}};
   Label         targetTag        {landscape, "Label5",         {9525, 3600,  690,  405}, {.visible = false, .caption = " Target at", .alignment = centred, .backColor = 0x00E0E0E0, .font = sans825}};
-  Line          mortarToRadar    {landscape, "Line6",          {2760,  165, 1810, 1320}, {.visible = false, .borderColor = 0x000000FF, .borderStyle = dotted}};
-  Line          sightingToMortar {landscape, "Line5",          {2760, 1800, 1815, 1320}, {.visible = false, .borderColor = 0x00FF0000}};
-  Line          sightingToTarget {landscape, "Line3",          {9960, 4560, 2760, 1800}, {.visible = false, .borderColor = 0x00FF0000}};
+  Line          radarToMortar    {landscape, "Line6",          {2760,  165, 1810, 1320}, {.visible = false, .borderColor = 0x000000FF, .borderStyle = dotted}};
+  Line          sightingOfMortar {landscape, "Line5",          {2760, 1800, 1815, 1320}, {.visible = false, .borderColor = 0x00FF0000}};
+  Line          sightingOfTarget {landscape, "Line3",          {9960, 4560, 2760, 1800}, {.visible = false, .borderColor = 0x00FF0000}};
   Line          Line4            {landscape, "Line4",          {2760,  165, 2760,  240}, {.borderColor = 0x00808080, .borderWidth = 2}};
   Line          beam             {landscape, "Line2",          {1800, 2040, 2760,  165}, {.visible = false, .borderColor = 0x0000FFFF}};
   Shape         targetMark       {landscape, "Shape3",         {9720, 3480,  150,   80}, {.visible = false, .shape = oval, .borderStyle = BorderStyle::None, .backStyle = BackStyle::Opaque}};
   Shape         target           {landscape, "Shape2",         {1560, 1920,  495,  255}, {.visible = false, .shape = oval, .borderColor = 0x80000018, .borderWidth = 2}};
 
-  // heightScale: the height scale.
+  // heightScale, along the left edge.
   Label heightUnit     {heightScale, "Label26",           { 60,  120, 220,  255}, {.caption = "km", .backColor = 0x00808080, .foreColor = 0x80000005, .font = system825}};
   Label heightNumbers_0{heightScale, heightNumbers.At(0), {  0, 9080, 320,  255}, {.visible = false, .caption = "0", .alignment = centred, .backColor = 0x00808080, .foreColor = 0x00FFFFFF, .font = sans825}};
   Line  heightBar      {heightScale, "Line9",             {360, 9105, 360, 9155}, {.visible = false, .borderColor = 0x00FFFFFF, .borderWidth = 3}};
   Line  heightTicks_0  {heightScale, heightTicks.At(0),   {300, 9200, 400, 9200}, {.visible = false, .borderColor = 0x00FFFFFF}};
 
-  // rangeScale: the range scale.
+  // rangeScale, along the lower edge.
   Image Image10       {rangeScale, "Image10",          {  120,   0,  210, 360}, {.picture = "origin_mark"}};
   Label rangeNumbers_0{rangeScale, rangeNumbers.At(0), {  280, 130,  255, 255}, {.visible = false, .caption = "0", .alignment = centred, .backColor = 0x00808080, .foreColor = 0x00FFFFFF, .font = sans825}};
   Line  rangeBar      {rangeScale, "Line8",            {  500,  45,  480,  45}, {.visible = false, .borderColor = 0x00FFFFFF, .borderWidth = 3}};
@@ -177,7 +180,7 @@ class QuintaraControls : public Form {
   Label rangeUnit     {rangeScale, "Label8",           {14940, 120,  255, 255}, {.visible = false, .caption = "km", .alignment = centred, .backColor = 0x00808080, .foreColor = 0x00FFFFFF, .font = sans825}};
   Label targetOnScale {rangeScale, "Label11",          { 6960,   0,  375, 165}, {.visible = false, .caption = "Target", .backColor = 0x00808080, .foreColor = 0x00FFFFFF, .font = sans675}};
 
-  // The help menu. It stands in no menu bar: the Help button opens it.
+  // helpMenu stands in no menu bar: the Help button opens it.
   Menu helpMenu{*this, "mnuHelp", {.caption = "Help", .visible = false}};
   Menu introductionItem{helpMenu, "mnuIntro",       {.caption = "Introduction"}};
   Menu scenarioItem    {helpMenu, "mnuScenario",    {.caption = "Scenario"}};

@@ -31,11 +31,11 @@ void QuintaraForm::Search() {
   target.Visible = true;
   beam.Visible = true;
   scene().Randomize();
-  mTargetAltitude = CInt(Int(scene().Rnd() * 6000 + 1));
+  lockOnDescent_ = CInt(Int(scene().Rnd() * 6000 + 1));
   advice.Caption = "  Target aquisition in progress";
   flight.x = 0;
   flight.y = 0;
-  mortarToRadar.Visible = true;
+  radarToMortar.Visible = true;
   mortarMark.Visible = true;
   mortarTag.Visible = true;
   driftRightTimer.Interval = 50;
@@ -54,7 +54,7 @@ void QuintaraForm::DriftLeft() {
 // lock-on in that very tick stops only its own timer, so the other runs once more and locks on a second time.
 void QuintaraForm::DriftTarget(const Drift& drift) {
   SetTrackSpeed();
-  flight.x = flight.x + drift.direction * (flight.dt * mTrackSpeed);
+  flight.x = flight.x + drift.direction * (flight.dt * trackSpeed_);
   flight.y = flight.y + flight.dt * 500;
   target.Left = flight.x;
   target.Top = flight.y + 2000;
@@ -69,7 +69,7 @@ void QuintaraForm::DriftTarget(const Drift& drift) {
   }
   ShowProfilePicture();
 
-  if (!(flight.y > mTargetAltitude)) {
+  if (!(flight.y > lockOnDescent_)) {
     GrowTarget();
   } else if (flight.x > 200) {
     LockOn(drift.timer);
@@ -79,8 +79,8 @@ void QuintaraForm::DriftTarget(const Drift& drift) {
 // The two rules do not meet at 7360, and exactly there the speed stays: the target is fastest near the middle
 // and crawls at the right edge.
 void QuintaraForm::SetTrackSpeed() {
-  if (flight.x < 7360) mTrackSpeed = (flight.x * 4 + 3000) * 3;
-  if (flight.x > 7360) mTrackSpeed = (58880 - flight.x * 4) * 3;
+  if (flight.x < 7360) trackSpeed_ = (flight.x * 4 + 3000) * 3;
+  if (flight.x > 7360) trackSpeed_ = (58880 - flight.x * 4) * 3;
 }
 
 void QuintaraForm::ShowProfilePicture() {
@@ -108,7 +108,7 @@ void QuintaraForm::LockOn(Timer& running) {
 
   targetTag.Left = targetMark.Left - 200;
   targetTag.Top = targetMark.Top + 120;
-  targetTag.Caption = " Target at " + std::string(quintara::Left(ToText(mTargetKm), 4)) + " km";
+  targetTag.Caption = " Target at " + std::string(quintara::Left(ToText(targetKm_), 4)) + " km";
   targetTag.Visible = true;
   magnifyButton.Enabled = true;
   running.Interval = 0;
@@ -117,37 +117,38 @@ void QuintaraForm::LockOn(Timer& running) {
       " Click Magnify (M) to display the     Terrain Profile and start the           Ballistic Simulator";
 }
 
-// The sight lines meet at a point of the line from the mortar to the target, which the target's bearing
+// The sightings of target and mortar meet at a point of the line between the two, which the target's bearing
 // places.
 void QuintaraForm::DrawSightings() {
-  // The bearing takes flight.y as it is, without the 2000 that the target's place on the landscape adds.
-  mBearingDeg = (180 / 3.1416) * Atn((flight.x - mortarToRadar.X1) / (flight.y - mortarToRadar.Y1));
-  mSightRatio = (mBearingDeg + 101.6) / 458.6;
+  // The bearing, in degrees, takes flight.y as it is, without the 2000 that the target's place on the
+  // landscape adds.
+  const Single bearing = (180 / pi) * Atn((flight.x - radarToMortar.X1) / (flight.y - radarToMortar.Y1));
+  const Single ratio = (bearing + 101.6) / 458.6;
   beam.X1 = flight.x;
   beam.Y1 = flight.y + 2000;
-  sightingToTarget.X1 = beam.X1;
-  sightingToTarget.Y1 = beam.Y1;
-  sightingToMortar.X1 = (beam.X1 * mSightRatio + mortarToRadar.X2) / (mSightRatio + 1);
-  sightingToMortar.Y1 = ((sightingToMortar.X1 - mortarToRadar.X2) * beam.Y1 +
-                         (beam.X1 - sightingToMortar.X1) * mortarToRadar.Y2) /
-                        (beam.X1 - mortarToRadar.X2);
-  sightingToTarget.X2 = sightingToMortar.X1;
-  sightingToTarget.Y2 = sightingToMortar.Y1;
+  sightingOfTarget.X1 = beam.X1;
+  sightingOfTarget.Y1 = beam.Y1;
+  sightingOfMortar.X1 = (beam.X1 * ratio + radarToMortar.X2) / (ratio + 1);
+  sightingOfMortar.Y1 = ((sightingOfMortar.X1 - radarToMortar.X2) * beam.Y1 +
+                         (beam.X1 - sightingOfMortar.X1) * radarToMortar.Y2) /
+                        (beam.X1 - radarToMortar.X2);
+  sightingOfTarget.X2 = sightingOfMortar.X1;
+  sightingOfTarget.Y2 = sightingOfMortar.Y1;
   targetMark.Left = beam.X1 - targetMark.Width / 2;
   targetMark.Top = beam.Y1 - targetMark.Height / 2;
   beam.BorderColor = 255;
-  sightingToTarget.Visible = true;
-  sightingToMortar.Visible = true;
+  sightingOfTarget.Visible = true;
+  sightingOfMortar.Visible = true;
   targetMark.Visible = true;
   target.Visible = false;
 }
 
 void QuintaraForm::MeasureRange() {
-  const double dx = beam.X1 - mortarToRadar.X2;
-  const double dy = beam.Y1 - mortarToRadar.Y2;
-  mTargetKm = Sqr(dx * dx + dy * dy);
-  mTargetKm = mTargetKm * 0.00182 + 7.45;
-  if (mTargetKm < Single(10.7)) mTargetKm = 10.7;  // a near target is reported, and stands, at 10.7 km
+  const double dx = beam.X1 - radarToMortar.X2;
+  const double dy = beam.Y1 - radarToMortar.Y2;
+  targetKm_ = Sqr(dx * dx + dy * dy);
+  targetKm_ = targetKm_ * 0.00182 + 7.45;
+  if (targetKm_ < Single(10.7)) targetKm_ = 10.7;  // a near target is reported, and stands, at 10.7 km
 }
 
 }  // namespace quintara

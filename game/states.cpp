@@ -25,10 +25,9 @@ void QuintaraForm::SwitchSound() {
 void QuintaraForm::Reset() {
   scope.Picture = Picture{};
   LayScopeGrid();
-  mFragRun = {};
-  mFragHeight = {};
-  mShellArmed = 0;
-  DrawFragmentWidths();
+  fragmentRun_ = {};
+  shellIsArmed_ = false;
+  RandomizeFragmentWidths();
   velocity.Caption = "250";
   shells(0).Left = 0;
   shells(0).Top = 9200;
@@ -43,16 +42,16 @@ void QuintaraForm::Reset() {
 
   const double shell = Val(shellInGun.Caption);
   if (shell < 6) {
-    mBonusShot = 0;
+    bonusShot_ = false;
   } else if (shell == 6) {
-    mBonusShot = 1;
+    bonusShot_ = true;
   }
   if (Val(shotsFired.Caption) == 6) StartNewGame();
   UnloadScales();
   fragmentTimer.Enabled = false;
 }
 
-// Writing the scroll bars runs their Change handlers, with the bonus shot as it still is; what follows in
+// Writing the scroll bars lays the gun, with the bonus shot as it still is; what follows in
 // Reset overrides what they show.
 void QuintaraForm::LayGunAtRest() {
   elevationBar.Value = 340;
@@ -85,14 +84,14 @@ void QuintaraForm::TakeDownTarget() {
   magnifyButton.Enabled = false;
   beam.Visible = false;
   beam.BorderColor = 0x00FFFF;
-  for (Line* line : {&sightingToTarget, &sightingToMortar, &mortarToRadar, &scoreDivider})
+  for (Line* line : {&sightingOfTarget, &sightingOfMortar, &radarToMortar, &scoreDivider})
     line->Visible = false;
   targetMark.Visible = false;
 }
 
 void QuintaraForm::StartNewGame() {
-  mBonusShot = 0;
-  for (gLoopIndex = 0; gLoopIndex <= 4; ++gLoopIndex) shellMarks(gLoopIndex).Visible = true;
+  bonusShot_ = false;
+  for (std::int16_t mark = 0; mark < shellMarkCount; ++mark) shellMarks(mark).Visible = true;
   shellInGun.Caption = "1";
   shotsFired.Caption = "0";
   bestScore.Caption = "30";
@@ -100,17 +99,17 @@ void QuintaraForm::StartNewGame() {
   for (Label* label : {&scoreBoard, &score, &bestScore, &shotsFired, &targetTag}) label->Visible = false;
   shotsDivider.Visible = false;
   soundButton.Visible = true;
-  mDragOn = 0;
+  dragIsOn_ = false;
 }
 
 void QuintaraForm::UnloadScales() {
-  for (gLoopIndex = 1; gLoopIndex <= 33; ++gLoopIndex) {
-    rangeNumbers.Unload(gLoopIndex);
-    rangeTicks.Unload(gLoopIndex);
+  for (std::int16_t km = 1; km <= rangeScaleEnd; ++km) {
+    rangeNumbers.Unload(km);
+    rangeTicks.Unload(km);
   }
-  for (gLoopIndex = 1; gLoopIndex <= 16; ++gLoopIndex) {
-    heightNumbers.Unload(gLoopIndex);
-    heightTicks.Unload(gLoopIndex);
+  for (std::int16_t km = 1; km <= heightScaleEnd; ++km) {
+    heightNumbers.Unload(km);
+    heightTicks.Unload(km);
   }
 }
 

@@ -15,7 +15,7 @@ class CollisionTest : public ::testing::Test, protected RunningGame {
     platform.log.clear();
     form.flightTimeBar.Value = 1;
   }
-  // Puts the shell's centre at a place of Picture11.
+  // Puts the shell's centre at a place of the mountain's box.
   void FireToProfile(double x, double y) { FireTo((x + 752.5) / 0.438, (height + 677.5 - y) / 0.55); }
   bool Burst() const { return std::count(platform.log.begin(), platform.log.end(), "sound bomb.wav") > 0; }
 
@@ -28,7 +28,7 @@ TEST_F(CollisionTest, EachSegmentGuardsItsTriangle) {
     double x, y;  // just inside
     const Line& run;
   } cases[] = {
-      {form.slope1, 599, 0.7 * height + 5, form.slope2},  // in the triangle of Line31, too: the earlier wins
+      {form.slope1, 599, 0.7 * height + 5, form.slope2},  // in the triangle of slope2, too: the earlier wins
       {form.slope2, 1000, 0.35 * height, form.slope3},   {form.slope3, 1300, 0.15 * height, form.slope4},
       {form.slope4, 1340, 0.15 * height, form.slope5},   {form.slope5, 1800, 0.4 * height, form.slope6},
       {form.slope6, 2790, 0.77 * height, form.slope6}};

@@ -13,14 +13,14 @@ class EffectsTest : public ::testing::Test, protected RunningGame {
     form.flightTimeBar.Value = 1;
   }
   void MissOnGround() { FireTo(12000, -1); }
-  void MissOnFace() { FireTo(5000, 100); }
+  void MissOnFoot() { FireTo(5000, 100); }
 };
 
 TEST_F(EffectsTest, AMissEndsDragAndItsFanFades) {
   MissOnGround();
   Advance(200);
   Click(form.dragButton);
-  MissOnFace();
+  MissOnFoot();
   EXPECT_EQ(form.bestScore.Caption, "30") << "it costs 15 points with drag";
   EXPECT_EQ(form.dragButton.Caption, "OFF");
   EXPECT_TRUE(form.dragButton.Enabled);
@@ -36,22 +36,22 @@ TEST_F(EffectsTest, AMissEndsDragAndItsFanFades) {
 TEST_F(EffectsTest, TheFifthBurstOffersTheBonusShot) {
   const char* const bonus = "Bonus Shot using Advanced Trajectory Simulator";
   const std::string laying = form.advice.Caption;
-  for (const bool fifthIsOnFace : {true, false}) {
+  for (const bool fifthIsOnFoot : {true, false}) {
     RunningGame other;
     other.Start();
     other.OpenProfile();
     for (int shell = 1; shell <= 4; ++shell) other.FireTo(12000, -1);
     EXPECT_EQ(other.form.advice.Caption.Get(), laying) << "a miss before the fifth changes no text";
-    const auto fire = [&](bool onFace) { onFace ? other.FireTo(5000, 100) : other.FireTo(12000, -1); };
-    fire(fifthIsOnFace);
+    const auto fire = [&](bool onFoot) { onFoot ? other.FireTo(5000, 100) : other.FireTo(12000, -1); };
+    fire(fifthIsOnFoot);
     EXPECT_FALSE(other.form.dragButton.Enabled);
     EXPECT_EQ(other.form.header.Caption, bonus);
     EXPECT_EQ(other.form.header.BackColor.Get(), Colour(0x80FFFF));
     EXPECT_EQ(other.form.advice.Caption.Get(),
               " Adjust Muzzle Elevation Angle       and Muzzle Velocity. Then, click    " +
-                  std::string(fifthIsOnFace ? "" : " ") + "the red Fire button.");
-    fire(fifthIsOnFace);
-    EXPECT_EQ(other.form.header.Caption, fifthIsOnFace ? "Terrain Profile and Ballistic Simulator" : bonus);
+                  std::string(fifthIsOnFoot ? "" : " ") + "the red Fire button.");
+    fire(fifthIsOnFoot);
+    EXPECT_EQ(other.form.header.Caption, fifthIsOnFoot ? "Terrain Profile and Ballistic Simulator" : bonus);
     EXPECT_EQ(other.form.bestScore.Caption, other.form.score.Caption.Get()) << "nothing more can be won";
   }
 }
