@@ -1,5 +1,4 @@
 #include "game/quintara.h"
-#include "numbers/numbers.h"
 #include "scene/scene.h"
 
 namespace quintara {

@@ -56,6 +56,13 @@ TEST_F(EffectsTest, TheFifthBurstOffersTheBonusShot) {
   }
 }
 
+TEST_F(EffectsTest, DragTurnedOnAmongTheFragmentsIsPreviewedWithTheirVelocity) {
+  FireTo(22052, -1);
+  Advance(100);
+  Click(form.dragButton);
+  EXPECT_NEAR(form.flight.time, (270 * 5 - 1) * 0.059, 0.05);
+}
+
 TEST_F(EffectsTest, FragmentsFlyInParabolasUntilReset) {
   FireTo(22052, -1);
   const Shape* fragments[] = {&form.fragment1, &form.fragment2, &form.fragment3, &form.fragment4,
