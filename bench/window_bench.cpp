@@ -217,7 +217,7 @@ void PlayASecond(Game& game, std::mt19937& random) {
     game.Click(game.program.analysis().cmdTrajectory);
     game.Click(game.program.analysis().cmdFreeFall);
     game.Click(game.program.trajectory().cmdFire);
-    game.Click(game.program.projectile().cmdBall3);
+    game.Click(game.program.projectile().ball3Button);
   }
   if (any(20) == 0) game.Click(game.program.analysis().cmdCancel);
   if (any(20) == 0) game.Click(game.program.masters().cmdCancel);

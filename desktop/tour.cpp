@@ -116,7 +116,7 @@ void Tour::ShowDemonstrations() {
   Picture("analysis", documents);
 
   Click(documents.cmdFreeFall);
-  Click(bench.cmdBall3);
+  Click(bench.ball3Button);
   constexpr std::int64_t ballsHalfWayDown = 5000;
   Advance(ballsHalfWayDown);
   Picture("projectile", bench);

@@ -8,13 +8,13 @@ namespace quintara {
 ProjectileForm::ProjectileForm(Scene& owner) : ProjectileControls(owner) {
   Bind(Load, &ProjectileForm::Form_Load);
   Bind(QueryUnload, &ProjectileForm::Form_QueryUnload);
-  Bind(cmdBall1.Click, &ProjectileForm::cmdBall1_Click);
-  Bind(cmdBall2.Click, &ProjectileForm::cmdBall2_Click);
-  Bind(cmdBall3.Click, &ProjectileForm::cmdBall3_Click);
-  Bind(cmdReset.Click, &ProjectileForm::cmdReset_Click);
-  Bind(cmdStop.Click, &ProjectileForm::cmdStop_Click);
-  Bind(cmdCancel.Click, &ProjectileForm::cmdCancel_Click);
-  Bind(tmrStart.Tick, &ProjectileForm::tmrStart_Timer);
+  Bind(ball1Button.Click, &ProjectileForm::cmdBall1_Click);
+  Bind(ball2Button.Click, &ProjectileForm::cmdBall2_Click);
+  Bind(ball3Button.Click, &ProjectileForm::cmdBall3_Click);
+  Bind(resetButton.Click, &ProjectileForm::cmdReset_Click);
+  Bind(stopButton.Click, &ProjectileForm::cmdStop_Click);
+  Bind(cancelButton.Click, &ProjectileForm::cmdCancel_Click);
+  Bind(ballTimer.Tick, &ProjectileForm::tmrStart_Timer);
 }
 
 void ProjectileForm::Form_Load() {
@@ -31,39 +31,39 @@ void ProjectileForm::Form_Load() {
 
 void ProjectileForm::LoadScales() {
   for (mLoopIndex = 1; mLoopIndex <= 8; ++mLoopIndex) {
-    Label4.Load(mLoopIndex);
-    Label6.Load(mLoopIndex);
-    Line7.Load(mLoopIndex);
-    Line9.Load(mLoopIndex);
+    fallNumbers.Load(mLoopIndex);
+    dialNumbers.Load(mLoopIndex);
+    railTicks.Load(mLoopIndex);
+    fallTicks.Load(mLoopIndex);
   }
-  for (mLoopIndex = 1; mLoopIndex <= 7; ++mLoopIndex) Label8.Load(mLoopIndex);
+  for (mLoopIndex = 1; mLoopIndex <= 7; ++mLoopIndex) railNumbers.Load(mLoopIndex);
 }
 
-// Eight positions of 45 degrees, numbered 0 to 7 clockwise from the top. Label6(8) stays hidden: its place is
-// the 0.
+// Eight positions of 45 degrees, numbered 0 to 7 clockwise from the top. The ninth number stays hidden: its
+// place is the 0.
 void ProjectileForm::LayDial() {
-  Picture1.Visible = true;
+  dial.Visible = true;
   mDialX = 500;
   mDialY = 500;
   mDialBase = 200;
   mDialStep = 141.372 / 180;
-  Line8.Visible = true;
+  dialHand.Visible = true;
   for (mLoopIndex = 1; mLoopIndex <= 7; ++mLoopIndex) {
-    Label& number = Label6(mLoopIndex);
+    Label& number = dialNumbers(mLoopIndex);
     number.Left = mDialX - number.Width / 2 + (mDialBase + 200) * Sin(mLoopIndex * mDialStep);
     number.Top = mDialY - number.Width / 2 - (mDialBase + 200) * Cos(mLoopIndex * mDialStep);
     number.Caption = ToText(mLoopIndex);
     number.Visible = true;
   }
   // Set by eye, a little to the right of where the circle would have it.
-  Place(Label6(0), mDialX - 80, mDialY - 460);
-  Label6(0).Caption = "0";
-  Label6(0).Visible = true;
+  Place(dialNumbers(0), mDialX - 80, mDialY - 460);
+  dialNumbers(0).Caption = "0";
+  dialNumbers(0).Visible = true;
 }
 
 // Everything else that Load made goes with the form.
 void ProjectileForm::Form_QueryUnload() {
-  for (mLoopIndex = 1; mLoopIndex <= 7; ++mLoopIndex) Label8.Unload(mLoopIndex);
+  for (mLoopIndex = 1; mLoopIndex <= 7; ++mLoopIndex) railNumbers.Unload(mLoopIndex);
 }
 
 void ProjectileForm::cmdBall1_Click() {
@@ -78,14 +78,14 @@ void ProjectileForm::cmdBall3_Click() {
 
 void ProjectileForm::StartRun(std::int16_t mode) {
   mBallMode = mode;
-  for (CommandButton* button : {&cmdBall1, &cmdBall2, &cmdBall3}) button->Enabled = false;
-  tmrStart.Interval = 50;
-  tmrStart.Enabled = true;
+  for (CommandButton* button : {&ball1Button, &ball2Button, &ball3Button}) button->Enabled = false;
+  ballTimer.Interval = 50;
+  ballTimer.Enabled = true;
 }
 
 void ProjectileForm::StopTimer() {
-  tmrStart.Interval = 0;
-  tmrStart.Enabled = false;
+  ballTimer.Interval = 0;
+  ballTimer.Enabled = false;
 }
 
 // Ball 3 comes last: it takes the places that the others have reached in the same tick.
@@ -98,13 +98,13 @@ void ProjectileForm::tmrStart_Timer() {
 // Stops and goes on at any time, also where nothing runs: it only knows the timer and its own last click.
 void ProjectileForm::cmdStop_Click() {
   if (mBallsPaused == 0) {
-    cmdStop.Caption = "Go";
+    stopButton.Caption = "Go";
     StopTimer();
     mBallsPaused = 1;
   } else {
-    cmdStop.Caption = "Stop";
-    tmrStart.Interval = 50;
-    tmrStart.Enabled = true;
+    stopButton.Caption = "Stop";
+    ballTimer.Interval = 50;
+    ballTimer.Enabled = true;
     mBallsPaused = 0;
   }
 }
@@ -117,9 +117,9 @@ void ProjectileForm::cmdReset_Click() {
   PutBenchBack();
   HideVectors();
   HideScales();
-  Label7.Visible = false;
-  cmdReset.Enabled = false;
-  for (CommandButton* button : {&cmdBall1, &cmdBall2, &cmdBall3}) button->Enabled = true;
+  resetHint.Visible = false;
+  resetButton.Enabled = false;
+  for (CommandButton* button : {&ball1Button, &ball2Button, &ball3Button}) button->Enabled = true;
 }
 
 void ProjectileForm::ForgetRun() {
@@ -130,45 +130,47 @@ void ProjectileForm::ForgetRun() {
 }
 
 void ProjectileForm::PutBallsBack() {
-  Place(Shape1, 480, 120);
-  Place(Label1, 540, 160);
-  SetVisible(true, Shape1, Label1);
-  Place(Shape2, 0, 480);
-  Place(Label2, 60, 520);
-  Place(Shape3, 480, 480);
-  Place(Label3, 540, 520);
+  Place(ball1, 480, 120);
+  Place(digit1, 540, 160);
+  SetVisible(true, ball1, digit1);
+  Place(ball2, 0, 480);
+  Place(digit2, 60, 520);
+  Place(ball3, 480, 480);
+  Place(digit3, 540, 520);
 }
 
 void ProjectileForm::PutBenchBack() {
-  Line1.X1 = Shape2.Left;
-  Line1.X2 = Shape3.Left;
-  Line1.Y1 = Shape3.Width / 2 + Shape3.Top;
-  Line1.Y2 = Shape3.Width / 2 + Shape3.Top;
+  sightLineAcross.X1 = ball2.Left;
+  sightLineAcross.X2 = ball3.Left;
+  sightLineAcross.Y1 = ball3.Width / 2 + ball3.Top;
+  sightLineAcross.Y2 = ball3.Width / 2 + ball3.Top;
   LaySightLine();
-  Line2.Visible = false;
-  Line4.X1 = 0;
-  Line4.Y1 = 720;
-  for (Line* plunger : {&Line5, &Line6}) {
+  sightLineDown.Visible = false;
+  trap.X1 = 0;
+  trap.Y1 = 720;
+  for (Line* plunger : {&plunger3, &plunger1}) {
     plunger->X1 = 360;
     plunger->X2 = 440;
   }
-  Line8.X2 = 500;
-  Line8.Y2 = 230;
+  dialHand.X2 = 500;
+  dialHand.Y2 = 230;
 }
 
 void ProjectileForm::HideVectors() {
-  SetVisible(false, Line10, Line11, Line12);
-  Line11.Y1 = Line12.Y2;
-  Line12.Y1 = Line12.Y2;
-  SetVisible(false, Line15, Line16, Line17, Line18, Line19, Line20, Line21, Line22);
-  SetVisible(false, Label12, Label14, Label15, Label16, Label17, Image2, Image3, Shape10, Shape11, Shape12);
+  SetVisible(false, xArrow, resultantArrow, yArrow);
+  resultantArrow.Y1 = yArrow.Y2;
+  yArrow.Y1 = yArrow.Y2;
+  SetVisible(false, xUpperBarb, xLowerBarb, resultantUpperBarb, resultantLowerBarb, yRightBarb, yLeftBarb,
+             guideDown, guideAcross);
+  SetVisible(false, vxText, vyText, panelDigit1, panelDigit2, panelDigit3, vxSymbol, vySymbol, panelBall1,
+             panelBall2, panelBall3);
 }
 
 void ProjectileForm::HideScales() {
   for (mLoopIndex = 0; mLoopIndex <= 8; ++mLoopIndex)
-    SetVisible(false, Line7(mLoopIndex), Line9(mLoopIndex), Label4(mLoopIndex));
-  for (mLoopIndex = 0; mLoopIndex <= 7; ++mLoopIndex) Label8(mLoopIndex).Visible = false;
-  Label9.Visible = false;
+    SetVisible(false, railTicks(mLoopIndex), fallTicks(mLoopIndex), fallNumbers(mLoopIndex));
+  for (mLoopIndex = 0; mLoopIndex <= 7; ++mLoopIndex) railNumbers(mLoopIndex).Visible = false;
+  metresText.Visible = false;
 }
 
 void ProjectileForm::cmdCancel_Click() {

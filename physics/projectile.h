@@ -50,7 +50,7 @@ class ProjectileForm : public ProjectileControls {
   void MoveHand(int position);
   void OfferReset();
   // Length of the y arrow, twips: it grows with the way that ball 2 has fallen, not with its velocity.
-  double FallArrow() const { return (Shape2.Top - 480) * 0.26; }
+  double FallArrow() const { return (ball2.Top - 480) * 0.26; }
 
   template <typename... Controls>
   static void SetVisible(bool visible, Controls&... controls) {
@@ -66,8 +66,8 @@ class ProjectileForm : public ProjectileControls {
   Single mBallX;               // twips run so far; ball 1 stands at mBallX + 500
   Single mBallVy;              // m/s, negative downwards
   Single mBallY;               // metres, negative downwards, 0 at the start
-  Single mShownVy;             // what Label14 says, a whole multiple of -9.8 m/s
-  Single mBallsPaused;         // 1: the next click on cmdStop lets the timer run
+  Single mShownVy;             // what vyText says, a whole multiple of -9.8 m/s
+  Single mBallsPaused;         // 1: the next click on stopButton lets the timer run
 
   Single mDialX, mDialY;  // centre of the dial, twips
   Single mDialBase;       // what its radii are counted from

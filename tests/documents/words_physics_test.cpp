@@ -29,18 +29,18 @@ TEST(AnalysisTest, TheProjectileWindowShowsItsNumbers) {
   using Readings = std::map<int, std::string>;
   Readings across, fall, velocity;
   const auto run = [&](CommandButton& ball, ControlArray<Label>& marks, Readings& metres) {
-    for (gun.Click(ball); bench.tmrStart.Enabled; gun.Advance(50)) {
-      const double turn = std::atan2(bench.Line8.X2 - 500, 500 - bench.Line8.Y2) / std::numbers::pi * 4;
+    for (gun.Click(ball); bench.ballTimer.Enabled; gun.Advance(50)) {
+      const double turn = std::atan2(bench.dialHand.X2 - 500, 500 - bench.dialHand.Y2) / std::numbers::pi * 4;
       const auto hand = static_cast<std::int16_t>(std::lround(turn + 8) % 8);
       if (hand == 0) continue;
       metres[hand] = marks(static_cast<std::int16_t>(hand - 1)).Caption;
-      velocity[hand] = bench.Label14.Caption;
+      velocity[hand] = bench.vyText.Caption;
     }
-    gun.Click(bench.cmdReset);
+    gun.Click(bench.resetButton);
   };
   bench.Show();
-  run(bench.cmdBall1, bench.Label8, across);
-  run(bench.cmdBall2, bench.Label4, fall);
+  run(bench.ball1Button, bench.railNumbers, across);
+  run(bench.ball2Button, bench.fallNumbers, fall);
   const auto table = Rows(analysis, "\n\t[N]\t[N] m\t[N] m\t[N] m/s");
   EXPECT_EQ(table.size(), 6u);
   for (const auto& row : table) {
