@@ -43,7 +43,7 @@ struct Game {
   TrajectoryForm& OpenSimulator() {
     TrajectoryForm& simulator = program.trajectory();
     simulator.Show();
-    UserDragsTo(simulator.HScroll2, 300);
+    UserDragsTo(simulator.velocityBar, 300);
     return simulator;
   }
 };
@@ -187,7 +187,7 @@ void ReplayOfTheSimulator(benchmark::State& state) {
   std::int16_t elevation = 290;
   for (auto _ : state) {
     elevation = static_cast<std::int16_t>(581 - elevation);
-    form.HScroll1.Value = elevation;
+    form.elevationBar.Value = elevation;
   }
 }
 BENCHMARK(ReplayOfTheSimulator);
@@ -199,7 +199,7 @@ void SliderOfTheSimulator(benchmark::State& state) {
   std::int32_t position = 0;
   for (auto _ : state) {
     position = position == 100 ? 0 : position + 1;
-    UserDragsTo(form.Slider1, position);
+    UserDragsTo(form.distanceSlider, position);
   }
 }
 BENCHMARK(SliderOfTheSimulator);

@@ -216,7 +216,7 @@ void PlayASecond(Game& game, std::mt19937& random) {
     game.Click(form.helpButton);
     game.Click(game.program.analysis().cmdTrajectory);
     game.Click(game.program.analysis().cmdFreeFall);
-    game.Click(game.program.trajectory().cmdFire);
+    game.Click(game.program.trajectory().fireButton);
     game.Click(game.program.projectile().ball3Button);
   }
   if (any(20) == 0) game.Click(game.program.analysis().cmdCancel);

@@ -122,10 +122,10 @@ void Tour::ShowDemonstrations() {
   Picture("projectile", bench);
 
   Click(documents.cmdTrajectory);
-  Drag(simulator.HScroll1, 315);
-  Drag(simulator.HScroll2, 280);
-  Click(simulator.cmdFire);
-  AdvanceUntil([&] { return simulator.Shape1.Left > 50000; });
+  Drag(simulator.elevationBar, 315);
+  Drag(simulator.velocityBar, 280);
+  Click(simulator.fireButton);
+  AdvanceUntil([&] { return simulator.ball.Left > 50000; });
   Picture("trajectory", simulator);
   PictureWithFrames("screenshot-teaching", {&bench, &simulator});
 }

@@ -8,8 +8,8 @@ namespace quintara {
 // The trajectory simulator: a flight with drag, to be studied by hand. A scroll bar replays the whole flight
 // as a curve on a chart, the Fire button flies a ball along it, and the slider takes the ball to a distance.
 //
-// The settings live in captions: Label5 holds the elevation in degrees, Label6 the initial velocity, Label11
-// the drag coefficient. Each flight takes them back from there.
+// The settings live in captions, those of the elevation in degrees, of the initial velocity and of the drag
+// constant. Each flight takes them back from there.
 class TrajectoryForm : public TrajectoryControls {
  public:
   explicit TrajectoryForm(Scene& scene);
@@ -62,13 +62,13 @@ class TrajectoryForm : public TrajectoryControls {
   Flight flight;
   Single mTrajV0;                // initial velocity, m/s
   Single mTrajElevationRad;      // elevation in radians
-  Single mTrajElevationScroll;   // where HScroll1 stands
+  Single mTrajElevationScroll;   // where elevationBar stands
   Single mResultantRad;          // angle of the resultant vector
   Single mResultantComplement;   // what it lacks of a right angle
   Single mPaceRatio;             // of flight.vx to flight.x, one second after Fire
   std::int16_t mStepCount = 0;   // counts the steps of a replay
   std::int16_t mLoopIndex = 0;   // counts the marks of the axes
-  std::int16_t mTrajPaused = 0;  // 1: cmdStop holds the flight
+  std::int16_t mTrajPaused = 0;  // 1: stopButton holds the flight
 };
 
 }  // namespace quintara

@@ -17,7 +17,7 @@ constexpr double metresPerSliderPosition = 99;
 void TrajectoryForm::HScroll1_Change() {
   TakeElevation();
   Replay(-20);
-  Label26.Caption = "Velocity at Impact (m/s):";
+  speedCaption.Caption = "Velocity at Impact (m/s):";
 }
 void TrajectoryForm::HScroll2_Change() {
   TakeVelocity();
@@ -35,8 +35,8 @@ void TrajectoryForm::HScroll3_Change() {
 // ticking: it finds itself far below the ground and stops.
 void TrajectoryForm::Replay(double floor) {
   ShowBall(false);
-  picVector.Visible = false;
-  Slider1.Value = 0;
+  vectorPanel.Visible = false;
+  distanceSlider.Value = 0;
   StartFlight(fineStep);
   mStepCount = 1;
   SetUpChart();
@@ -55,7 +55,7 @@ void TrajectoryForm::PlotFlight(double floor) {
   std::optional<Point> lastAboveFloor;
   std::optional<Single> lastHeightRisen;
   Flight shell = flight;
-  const double k = Val(Label11.Caption);
+  const double k = Val(dragText.Caption);
   const std::int16_t end = EndOfSteps(mTrajV0);
   for (; mStepCount < end; ++mStepCount) {
     BallisticStep(shell, k);
@@ -67,30 +67,30 @@ void TrajectoryForm::PlotFlight(double floor) {
   }
   flight = shell;
   if (lastAboveFloor) {
-    Label29.Caption = Format(lastAboveFloor->time, Pattern::Whole);
-    Label20.Caption = Format(lastAboveFloor->x, Pattern::Whole);
-    Label27.Caption = Format(lastAboveFloor->speed, Pattern::TwoDecimals);
+    timeText.Caption = Format(lastAboveFloor->time, Pattern::Whole);
+    rangeText.Caption = Format(lastAboveFloor->x, Pattern::Whole);
+    speedText.Caption = Format(lastAboveFloor->speed, Pattern::TwoDecimals);
   }
-  if (lastHeightRisen) Label21.Caption = Format(*lastHeightRisen, Pattern::Whole);
+  if (lastHeightRisen) heightText.Caption = Format(*lastHeightRisen, Pattern::Whole);
 }
 
 void TrajectoryForm::ShowReplayCaptions() {
-  Label18.Caption = "Range (m):";
-  Label19.Caption = "Height (m):";
-  Label22.Caption = "";
-  Label24.Caption = "";
-  Label23.Visible = false;
-  Label25.Visible = false;
-  cmdFire.Enabled = true;
-  cmdStop.Enabled = false;
+  rangeCaption.Caption = "Range (m):";
+  heightCaption.Caption = "Height (m):";
+  vxCaption.Caption = "";
+  vyCaption.Caption = "";
+  vxText.Visible = false;
+  vyText.Visible = false;
+  fireButton.Enabled = true;
+  stopButton.Enabled = false;
   mTrajPaused = 0;
-  cmdStop.Caption = "Stop";
+  stopButton.Caption = "Stop";
 }
 
 // The flight up to the slider's distance. A ball that is in the air goes on from there, in fine steps.
 void TrajectoryForm::Slider1_Scroll() {
   TakeDrag();
-  Shape1.Visible = false;
+  ball.Visible = false;
   TakeElevation();
   TakeVelocity();
   StartFlight(fineStep);
@@ -101,9 +101,9 @@ void TrajectoryForm::Slider1_Scroll() {
   ShowBallAtSlider();
   LayProjectionLines();
   DrawVectors();
-  Label18.Caption = "x (m):";
-  Label19.Caption = "y (m):";
-  Label26.Caption = "Velocity (m/s):";
+  rangeCaption.Caption = "x (m):";
+  heightCaption.Caption = "y (m):";
+  speedCaption.Caption = "Velocity (m/s):";
   ShowComponentReadOuts();
   ShowFlightReadOuts();
 }
@@ -113,8 +113,8 @@ void TrajectoryForm::FlyToSlider() {
   const std::int16_t end = EndOfSteps(mTrajV0);
   while (mStepCount < end) {
     ++mStepCount;
-    StepAlongGround(flight, Val(Label11.Caption));
-    if (flight.x > Slider1.Value * metresPerSliderPosition) return;
+    StepAlongGround(flight, Val(dragText.Caption));
+    if (flight.x > distanceSlider.Value * metresPerSliderPosition) return;
     StepUpwards(flight);
     if (flight.y > 0) PlotPoint(flight.x, flight.y);
   }
@@ -124,14 +124,14 @@ void TrajectoryForm::FlyToSlider() {
 void TrajectoryForm::ShowBallAtSlider() {
   if (flight.y < 0) {
     ShowBall(false);
-    picVector.Visible = false;
+    vectorPanel.Visible = false;
   } else if (flight.y > 0) {
     ShowBall(true);
-    picVector.Visible = true;
+    vectorPanel.Visible = true;
     // Not quite where a flight shows the ball: half its height to the left instead of half its width, and the
     // top 400 above the point.
-    Shape1.Left = ChartX(flight.x) - Shape1.Height / 2;
-    Shape1.Top = 44600 - flight.y * 7.54;
+    ball.Left = ChartX(flight.x) - ball.Height / 2;
+    ball.Top = 44600 - flight.y * 7.54;
   }
 }
 
@@ -141,67 +141,67 @@ void TrajectoryForm::cmdFire_Click() {
   scene().Beep();
   StartEventTimer();
   SetUpChart();
-  Label22.Visible = true;
-  Label24.Visible = true;
+  vxCaption.Visible = true;
+  vyCaption.Visible = true;
   ShowComponentReadOuts();
   TakeDrag();
   ShowBall(true);
-  picVector.Visible = true;
+  vectorPanel.Visible = true;
   TakeElevation();
   TakeVelocity();
   StartFlight(ballStep);
-  Timer1.Enabled = true;
-  cmdFire.Enabled = false;
-  cmdStop.Enabled = true;
+  flightTimer.Enabled = true;
+  fireButton.Enabled = false;
+  stopButton.Enabled = true;
 }
 
 void TrajectoryForm::cmdStop_Click() {
   mTrajPaused = mTrajPaused == 0 ? 1 : 0;
-  cmdStop.Caption = mTrajPaused == 1 ? "Go" : "Stop";
-  Timer1.Enabled = mTrajPaused == 0;
+  stopButton.Caption = mTrajPaused == 1 ? "Go" : "Stop";
+  flightTimer.Enabled = mTrajPaused == 0;
 }
 
-// The landing leaves the buttons alone: cmdFire stays disabled until a scroll bar is moved.
+// The landing leaves the buttons alone: fireButton stays disabled until a scroll bar is moved.
 void TrajectoryForm::Timer1_Timer() {
   if (flight.y < 0) {
     // The ground is found: the ball stops, but this tick still makes its step, and the read-outs show it.
     scene().Beep();
-    Timer1.Enabled = false;
+    flightTimer.Enabled = false;
     ShowBall(false);
   } else if (flight.y > 0) {
     ShowBall(true);
-    picVector.Visible = true;
+    vectorPanel.Visible = true;
   }
-  BallisticStep(flight, Val(Label11.Caption));
+  BallisticStep(flight, Val(dragText.Caption));
   // Half the width both ways: in chart units the ball's width is not its height.
-  Shape1.Left = ChartX(flight.x) - Shape1.Width / 2;
-  Shape1.Top = ChartY(flight.y) - Shape1.Width / 2;
+  ball.Left = ChartX(flight.x) - ball.Width / 2;
+  ball.Top = ChartY(flight.y) - ball.Width / 2;
   LayProjectionLines();
   ShowFlightReadOuts();
   DrawVectors();
 }
 
 void TrajectoryForm::StartEventTimer() {
-  tmrEvent.Enabled = true;
-  tmrEvent.Interval = 1000;
+  paceTimer.Enabled = true;
+  paceTimer.Interval = 1000;
 }
 
 // A second into the flight its ticks are paced by how far the ball has come; the pace stays for the next
 // flight. A flight that has not ticked yet has no pace, and one that a replay took far away would get an
 // interval that never ticks: both keep the one they have.
 void TrajectoryForm::tmrEvent_Timer() {
-  tmrEvent.Interval = 0;
-  tmrEvent.Enabled = false;
+  paceTimer.Interval = 0;
+  paceTimer.Enabled = false;
   if (flight.x == 0) return;
   mPaceRatio = flight.vx / flight.x;
   const std::int32_t interval = CLng(mPaceRatio * 100);
-  if (interval >= 1) Timer1.Interval = interval;
+  if (interval >= 1) flightTimer.Interval = interval;
 }
 
 // Every setting of the flight is taken back from its caption.
 void TrajectoryForm::StartFlight(double dt) {
-  mTrajElevationRad = Val(Label5.Caption) * 3.1416 / 180;
-  mTrajV0 = Val(Label6.Caption);
+  mTrajElevationRad = Val(elevationText.Caption) * 3.1416 / 180;
+  mTrajV0 = Val(velocityText.Caption);
   Launch(flight, mTrajV0, mTrajElevationRad);
   flight.dt = dt;
 }
@@ -214,35 +214,35 @@ void TrajectoryForm::SetUpChart() {
 }
 
 void TrajectoryForm::ShowBall(bool visible) {
-  Shape1.Visible = visible;
-  Line8.Visible = visible;
-  Line9.Visible = visible;
+  ball.Visible = visible;
+  projectionDown.Visible = visible;
+  projectionAcross.Visible = visible;
 }
 
 // From the ball down to the x axis and across to the y axis.
 void TrajectoryForm::LayProjectionLines() {
-  Line8.X1 = Shape1.Left + Shape1.Height / 2;
-  Line8.X2 = Line8.X1;
-  Line8.Y1 = Shape1.Top + Shape1.Height;
-  Line9.X2 = Shape1.Left;
-  Line9.Y2 = Shape1.Top + Shape1.Height / 2;
-  Line9.Y1 = Line9.Y2;
+  projectionDown.X1 = ball.Left + ball.Height / 2;
+  projectionDown.X2 = projectionDown.X1;
+  projectionDown.Y1 = ball.Top + ball.Height;
+  projectionAcross.X2 = ball.Left;
+  projectionAcross.Y2 = ball.Top + ball.Height / 2;
+  projectionAcross.Y1 = projectionAcross.Y2;
 }
 
 void TrajectoryForm::ShowComponentReadOuts() {
-  Label22.Caption = "Velocity in x-dir (m/s):";
-  Label24.Caption = "Velocity in y-dir (m/s):";
-  Label23.Visible = true;
-  Label25.Visible = true;
+  vxCaption.Caption = "Velocity in x-dir (m/s):";
+  vyCaption.Caption = "Velocity in y-dir (m/s):";
+  vxText.Visible = true;
+  vyText.Visible = true;
 }
 
 void TrajectoryForm::ShowFlightReadOuts() {
-  Label20.Caption = Format(flight.x, Pattern::TwoDecimals);
-  Label21.Caption = Format(flight.y, Pattern::TwoDecimals);
-  Label23.Caption = Format(flight.vx, Pattern::TwoDecimals);
-  Label25.Caption = Format(flight.vy, Pattern::TwoDecimals);
-  Label27.Caption = Format(flight.speed, Pattern::TwoDecimals);
-  Label29.Caption = Format(flight.time, Pattern::TwoDecimals);
+  rangeText.Caption = Format(flight.x, Pattern::TwoDecimals);
+  heightText.Caption = Format(flight.y, Pattern::TwoDecimals);
+  vxText.Caption = Format(flight.vx, Pattern::TwoDecimals);
+  vyText.Caption = Format(flight.vy, Pattern::TwoDecimals);
+  speedText.Caption = Format(flight.speed, Pattern::TwoDecimals);
+  timeText.Caption = Format(flight.time, Pattern::TwoDecimals);
 }
 
 }  // namespace quintara

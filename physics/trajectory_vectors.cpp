@@ -2,8 +2,8 @@
 #include "numbers/trigonometry.h"
 #include "physics/trajectory.h"
 
-// The panel of velocity vectors, in its own units: two to each m/s. The projectile is where Line5 (along the
-// ground) and Line6 (upwards) begin; Line7 is their resultant, and its X1, Y1 is the tip.
+// The panel of velocity vectors, in its own units: two to each m/s. The projectile is where xArrow (along the
+// ground) and yArrow (upwards) begin; resultantArrow is their resultant, and its X1, Y1 is the tip.
 
 namespace quintara {
 namespace {
@@ -20,7 +20,7 @@ void TrajectoryForm::DrawVectors() {
 // Lines count downwards, so on the way up the angle is the negative one of the path; the head turns with it.
 void TrajectoryForm::DrawVectorsAscending() {
   DrawComponents();
-  mResultantRad = Atn((Line7.Y1 - Line5.Y1) / (Line5.X2 - Line5.X1));
+  mResultantRad = Atn((resultantArrow.Y1 - xArrow.Y1) / (xArrow.X2 - xArrow.X1));
   DrawArrowHeads({.line12X2 = 1, .line12Y1 = 1, .line13Y1 = 1, .line6Barb = barb});
 }
 
@@ -31,32 +31,32 @@ void TrajectoryForm::DrawVectorsDescending() {
 }
 
 void TrajectoryForm::DrawComponents() {
-  Line6.Y2 = Line6.Y1 - (flight.vy + flight.vy);
-  Line5.X2 = Line5.X1 + (flight.vx + flight.vx);
-  Line7.X1 = Line5.X2;
-  Line7.Y1 = Line6.Y2;
+  yArrow.Y2 = yArrow.Y1 - (flight.vy + flight.vy);
+  xArrow.X2 = xArrow.X1 + (flight.vx + flight.vx);
+  resultantArrow.X1 = xArrow.X2;
+  resultantArrow.Y1 = yArrow.Y2;
 }
 
 void TrajectoryForm::DrawArrowHeads(const ArrowRule& rule) {
   mResultantComplement = 3.1416 / 2 - mResultantRad;
-  Line10.Lay({Line5.X2 + barb, Line5.Y2, Line5.X2, Line5.Y2 - barb});
-  Line11.Lay({Line5.X2 + barb, Line5.Y2, Line5.X2, Line5.Y2 + barb});
+  xUpperBarb.Lay({xArrow.X2 + barb, xArrow.Y2, xArrow.X2, xArrow.Y2 - barb});
+  xLowerBarb.Lay({xArrow.X2 + barb, xArrow.Y2, xArrow.X2, xArrow.Y2 + barb});
 
-  const double x = Line7.X1;
-  const double y = Line7.Y1;
+  const double x = resultantArrow.X1;
+  const double y = resultantArrow.Y1;
   const double across = barb * Cos(mResultantRad);
   const double down = barb * Sin(mResultantRad);
-  Line12.Lay({x + across, y + rule.line12Y1 * down, x + rule.line12X2 * down, y - across});
-  Line13.Lay({x + across, y + rule.line13Y1 * down, x - barb * Cos(mResultantComplement),
-              y + barb * Sin(mResultantComplement)});
+  resultantUpperBarb.Lay({x + across, y + rule.line12Y1 * down, x + rule.line12X2 * down, y - across});
+  resultantLowerBarb.Lay({x + across, y + rule.line13Y1 * down, x - barb * Cos(mResultantComplement),
+                          y + barb * Sin(mResultantComplement)});
 
-  const double p = Line6.X1;
-  const double q = Line6.Y2;
-  Line14.Lay({p, q, p + barb, q + rule.line6Barb});
-  Line16.Lay({p - barb, q + rule.line6Barb, p, q});
+  const double p = yArrow.X1;
+  const double q = yArrow.Y2;
+  yRightBarb.Lay({p, q, p + barb, q + rule.line6Barb});
+  yLeftBarb.Lay({p - barb, q + rule.line6Barb, p, q});
 
-  Image5.Left = Line7.X1 + 40;
-  Image5.Top = Line7.Y1 - 40;
+  resultantSymbol.Left = resultantArrow.X1 + 40;
+  resultantSymbol.Top = resultantArrow.Y1 - 40;
 }
 
 }  // namespace quintara

@@ -87,10 +87,10 @@ TEST_F(KeyboardTest, BarsGoTheWayOfTheKeysWhicheverEndIsTheLarger) {
   press(main.flightTimeBar, {{Qt::Key_Left, 14}, {Qt::Key_PageUp, 13}, {Qt::Key_End, 15}});
   TrajectoryForm& trajectory = program.trajectory();
   Open(trajectory);
-  Do([&] { trajectory.Slider1.Value = 50; });
-  press(trajectory.Slider1,
+  Do([&] { trajectory.distanceSlider.Value = 50; });
+  press(trajectory.distanceSlider,
         {{Qt::Key_PageUp, 45}, {Qt::Key_Left, 44}, {Qt::Key_Up, 43}, {Qt::Key_PageDown, 48}});
-  press(trajectory.HScroll1, {{Qt::Key_Right, 349}});
+  press(trajectory.elevationBar, {{Qt::Key_Right, 349}});
 }
 
 TEST_F(KeyboardTest, SpaceAndEnterPressWhatHasTheFocus) {
