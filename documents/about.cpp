@@ -4,8 +4,7 @@
 
 namespace quintara {
 
-AboutForm::AboutForm(Scene& owner)
-    : Form(owner, "About", {.caption = "About Quintara", .clientWidth = 4305, .clientHeight = 1590}) {
+AboutForm::AboutForm(Scene& owner) : AboutControls(owner) {
   Bind(Load, &AboutForm::Form_Load);
   Bind(cmdOK.Click, &AboutForm::cmdOK_Click);
 }

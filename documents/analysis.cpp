@@ -6,11 +6,7 @@ namespace quintara {
 
 AnalysisForm::AnalysisForm(Scene& owner, const MainForm& mainForm, ProjectileForm& projectileForm,
                            TrajectoryForm& trajectoryForm)
-    : Form(owner, "Analysis",
-           {.caption = "Analysis of Quintara",
-            .clientWidth = 5985,
-            .clientHeight = 9240,
-            .scale = Scale::InUnitsOf(1, 1)}),
+    : AnalysisControls(owner),
       Analysis(*this),
       main_(mainForm),
       projectile(projectileForm),

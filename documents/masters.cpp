@@ -12,10 +12,7 @@ constexpr double grandMasterPoints = 45;
 
 }  // namespace
 
-MastersForm::MastersForm(Scene& owner, const MainForm& mainForm)
-    : Form(owner, "frmMasters",
-           {.caption = "Masters of Quintara", .clientWidth = 11085, .clientHeight = 8985}),
-      main_(mainForm) {
+MastersForm::MastersForm(Scene& owner, const MainForm& mainForm) : MastersControls(owner), main_(mainForm) {
   Bind(Load, &MastersForm::Form_Load);
   Bind(Text1.KeyPress, &MastersForm::Text1_KeyPress);
   Bind(cmdRemove.Click, &MastersForm::cmdRemove_Click);
