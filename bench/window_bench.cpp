@@ -214,13 +214,13 @@ void PlayASecond(Game& game, std::mt19937& random) {
     Menu* const documents[] = {&form.scenarioItem, &form.rulesItem, &form.physicsItem, &form.mastersItem};
     game.platform.Choose(*documents[any(4)]);
     game.Click(form.helpButton);
-    game.Click(game.program.analysis().cmdTrajectory);
-    game.Click(game.program.analysis().cmdFreeFall);
+    game.Click(game.program.analysis().simulatorButton);
+    game.Click(game.program.analysis().benchButton);
     game.Click(game.program.trajectory().fireButton);
     game.Click(game.program.projectile().ball3Button);
   }
-  if (any(20) == 0) game.Click(game.program.analysis().cmdCancel);
-  if (any(20) == 0) game.Click(game.program.masters().cmdCancel);
+  if (any(20) == 0) game.Click(game.program.analysis().cancelButton);
+  if (any(20) == 0) game.Click(game.program.masters().cancelButton);
   for (int frame = 0; frame < 20; ++frame) game.Advance(50);
 }
 

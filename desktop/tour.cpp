@@ -81,11 +81,11 @@ void Tour::PlayBonusShell() {
   Fire();
   AdvanceUntil([&] { return masters.IsVisible(); });
   Picture("bonus-hit", game);
-  Type(masters.Text1, "Ada Lovelace");
+  Type(masters.nameBox, "Ada Lovelace");
   Picture("masters-offer", masters);
-  Type(masters.Text1, "\r");
+  Type(masters.nameBox, "\r");
   Picture("masters", masters);
-  Click(masters.cmdCancel);
+  Click(masters.cancelButton);
   constexpr std::int64_t untilTheFragmentsLie = 3000;
   Advance(untilTheFragmentsLie);
   WaitForReset();
@@ -97,12 +97,12 @@ void Tour::ReadDocuments() {
   Choose(game.scenarioItem);
   Picture("scenario", documents);
   Picture("place-names", game);
-  Click(documents.cmdCancel);
+  Click(documents.cancelButton);
   Choose(game.rulesItem);
   Picture("rules", documents);
   Choose(game.aboutItem);
   Picture("about", program_.about());
-  Click(program_.about().cmdOK);
+  Click(program_.about().okButton);
   Choose(game.readmeItem);
   Picture("readme", game);
   Click(game.closeReadmeButton);
@@ -115,13 +115,13 @@ void Tour::ShowDemonstrations() {
   Choose(program_.quintara().physicsItem);
   Picture("analysis", documents);
 
-  Click(documents.cmdFreeFall);
+  Click(documents.benchButton);
   Click(bench.ball3Button);
   constexpr std::int64_t ballsHalfWayDown = 5000;
   Advance(ballsHalfWayDown);
   Picture("projectile", bench);
 
-  Click(documents.cmdTrajectory);
+  Click(documents.simulatorButton);
   Drag(simulator.elevationBar, 315);
   Drag(simulator.velocityBar, 280);
   Click(simulator.fireButton);

@@ -6,7 +6,7 @@ namespace quintara {
 
 AboutForm::AboutForm(Scene& owner) : AboutControls(owner) {
   Bind(Load, &AboutForm::Form_Load);
-  Bind(cmdOK.Click, &AboutForm::cmdOK_Click);
+  Bind(okButton.Click, &AboutForm::cmdOK_Click);
 }
 
 void AboutForm::Form_Load() {

@@ -14,7 +14,7 @@ class AboutControls : public Form {
  public:
   // clang-format off
   SSPanel       SSPanel1{*this, "SSPanel1", { 720,  120, 2775, 495}, {.caption = "Quintara Version 1.0", .backColor = 0x00C0C0FF}};
-  CommandButton cmdOK   {*this, "cmdOK",    {2520, 1200,  975, 255}, {.caption = "OK"}};
+  CommandButton okButton{*this, "cmdOK",    {2520, 1200,  975, 255}, {.caption = "OK"}};
   // clang-format on
 };
 

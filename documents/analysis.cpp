@@ -11,11 +11,11 @@ AnalysisForm::AnalysisForm(Scene& owner, const MainForm& mainForm, ProjectileFor
       main_(mainForm),
       projectile(projectileForm),
       frmTrajectory(trajectoryForm) {
-  Bind(rtbMath.SelChange, &AnalysisForm::rtbMath_SelChange);
-  Bind(cmdCopy.Click, &AnalysisForm::cmdCopy_Click);
-  Bind(cmdFreeFall.Click, &AnalysisForm::cmdFreeFall_Click);
-  Bind(cmdTrajectory.Click, &AnalysisForm::cmdTrajectory_Click);
-  Bind(cmdCancel.Click, &AnalysisForm::cmdCancel_Click);
+  Bind(documentBox.SelChange, &AnalysisForm::rtbMath_SelChange);
+  Bind(copyButton.Click, &AnalysisForm::cmdCopy_Click);
+  Bind(benchButton.Click, &AnalysisForm::cmdFreeFall_Click);
+  Bind(simulatorButton.Click, &AnalysisForm::cmdTrajectory_Click);
+  Bind(cancelButton.Click, &AnalysisForm::cmdCancel_Click);
 }
 
 void AnalysisForm::Open(HelpTopic topic) {
@@ -24,17 +24,17 @@ void AnalysisForm::Open(HelpTopic topic) {
   Width = document.width;
   TakePosition(document.position);
   Caption = document.caption;
-  rtbMath.Width = document.textWidth;
-  rtbMath.Height = document.textHeight;
-  cmdCancel.Left = document.cancelLeft;
-  cmdCancel.Top = document.cancelTop;
-  cmdCopy.Left = document.copyLeft;
-  cmdCopy.Top = document.copyTop;
+  documentBox.Width = document.textWidth;
+  documentBox.Height = document.textHeight;
+  cancelButton.Left = document.cancelLeft;
+  cancelButton.Top = document.cancelTop;
+  copyButton.Left = document.copyLeft;
+  copyButton.Top = document.copyTop;
   main_.valleyName.Visible = document.placeNames;
   main_.peakName.Visible = document.placeNames;
-  cmdTrajectory.Visible = document.demonstrations;
-  cmdFreeFall.Visible = document.demonstrations;
-  ReadDocumentInto(rtbMath, main_.shared.programFolder, document.file);
+  simulatorButton.Visible = document.demonstrations;
+  benchButton.Visible = document.demonstrations;
+  ReadDocumentInto(documentBox, main_.shared.programFolder, document.file);
   Show();
 }
 
@@ -50,11 +50,11 @@ void AnalysisForm::TakePosition(DocumentPosition position) {
 
 // Nothing switches the button off again while the window stays open.
 void AnalysisForm::rtbMath_SelChange() {
-  if (rtbMath.SelLength() > 0) cmdCopy.Enabled = true;
+  if (documentBox.SelLength() > 0) copyButton.Enabled = true;
 }
 
 void AnalysisForm::cmdCopy_Click() {
-  if (rtbMath.SelLength() > 0) scene().platform().PutOnClipboard(rtbMath.SelText());
+  if (documentBox.SelLength() > 0) scene().platform().PutOnClipboard(documentBox.SelText());
 }
 
 void AnalysisForm::cmdFreeFall_Click() {
@@ -79,7 +79,7 @@ void AnalysisForm::cmdCancel_Click() {
   frmTrajectory.Unload();
   projectile.Unload();
   // This touch loads the form again, hidden; it is meant so that the next opening starts with the button off.
-  Analysis->cmdCopy.Enabled = false;
+  Analysis->copyButton.Enabled = false;
 }
 
 void ReadDocumentInto(RichTextBox& box, const std::string& folder, std::string_view name) {

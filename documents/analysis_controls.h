@@ -17,11 +17,11 @@ class AnalysisControls : public Form {
 
  public:
   // clang-format off
-  RichTextBox   rtbMath      {*this, "rtbMath",       {   0,    0, 6000, 8640}, {.backColor = 0x80000005}};
-  CommandButton cmdFreeFall  {*this, "cmdFreeFall",   { 120, 8745,  975,  350}, {.caption = "Projectile"}};
-  CommandButton cmdCopy      {*this, "cmdCopy",       {1680, 8745,  975,  350}, {.enabled = false, .caption = "Copy"}};
-  CommandButton cmdCancel    {*this, "cmdCancel",     {3240, 8745,  975,  350}, {.caption = "Cancel"}};
-  CommandButton cmdTrajectory{*this, "cmdTrajectory", {4800, 8745,  975,  350}, {.caption = "Trajectory"}};
+  RichTextBox   documentBox    {*this, "rtbMath",       {   0,    0, 6000, 8640}, {.backColor = 0x80000005}};
+  CommandButton benchButton    {*this, "cmdFreeFall",   { 120, 8745,  975,  350}, {.caption = "Projectile"}};
+  CommandButton copyButton     {*this, "cmdCopy",       {1680, 8745,  975,  350}, {.enabled = false, .caption = "Copy"}};
+  CommandButton cancelButton   {*this, "cmdCancel",     {3240, 8745,  975,  350}, {.caption = "Cancel"}};
+  CommandButton simulatorButton{*this, "cmdTrajectory", {4800, 8745,  975,  350}, {.caption = "Trajectory"}};
   // clang-format on
 };
 

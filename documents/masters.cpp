@@ -14,9 +14,9 @@ constexpr double grandMasterPoints = 45;
 
 MastersForm::MastersForm(Scene& owner, const MainForm& mainForm) : MastersControls(owner), main_(mainForm) {
   Bind(Load, &MastersForm::Form_Load);
-  Bind(Text1.KeyPress, &MastersForm::Text1_KeyPress);
-  Bind(cmdRemove.Click, &MastersForm::cmdRemove_Click);
-  Bind(cmdCancel.Click, &MastersForm::cmdCancel_Click);
+  Bind(nameBox.KeyPress, &MastersForm::Text1_KeyPress);
+  Bind(removeButton.Click, &MastersForm::cmdRemove_Click);
+  Bind(cancelButton.Click, &MastersForm::cmdCancel_Click);
 }
 
 void MastersForm::Form_Load() {
@@ -28,18 +28,18 @@ void MastersForm::Form_Load() {
         "The list of masters in the file Masters.txt could not be read. The file is left as it is.");
   }
   if (!lines) return;
-  for (const std::string& line : *lines) List1.AddItem(line);
+  for (const std::string& line : *lines) list.AddItem(line);
 }
 
 void MastersForm::Text1_KeyPress(std::int16_t KeyAscii) {
   if (KeyAscii != enter) return;
   const double points = Val(main_.score.Caption);
   if (points >= masterPoints && points < grandMasterPoints) {
-    List1.AddItem(Text1.Text.Get() + " - Master of Quintara");
+    list.AddItem(nameBox.Text.Get() + " - Master of Quintara");
   } else if (points >= grandMasterPoints) {
-    List1.AddItem(Text1.Text.Get() + " - Grand Master of Quintara");
+    list.AddItem(nameBox.Text.Get() + " - Grand Master of Quintara");
   }
-  Picture1.Visible = false;
+  namePanel.Visible = false;
   SaveList();
   main_.shared.PlayUnlessSoundIsOff(scene(), "gong.wav");
 }
@@ -51,8 +51,8 @@ void MastersForm::cmdRemove_Click() {
       scene().MsgBox("Are you sure you want to erase all names from the Quintara Master list?",
                      yesNoWithExclamation, "Removing names");
   if (answer != yes) return;
-  List1.Clear();
-  Picture1.Visible = false;
+  list.Clear();
+  namePanel.Visible = false;
   SaveList();
 }
 
@@ -61,7 +61,7 @@ void MastersForm::cmdCancel_Click() {
 }
 
 void MastersForm::SaveList() {
-  if (!fileIsUnread_ && scene().files().WriteLines(main_.shared.programFolder + "Masters.txt", List1.items()))
+  if (!fileIsUnread_ && scene().files().WriteLines(main_.shared.programFolder + "Masters.txt", list.items()))
     return;
   scene().TellFault(
       "The list of masters could not be saved in the file Masters.txt. The file was left as it is; the list "

@@ -41,8 +41,8 @@ void Player::Act() {
     case 'Q': program_.scene().chance().Queue(bytes_.Take() / 256.0); break;
     case 'B': platform_.boxAnswer = bytes_.Take() % 8; break;
     case 'Z': disk_.full = !disk_.full; break;
-    case 'J': UserClicks(program_.analysis().cmdFreeFall); break;
-    case 'K': UserClicks(program_.analysis().cmdTrajectory); break;
+    case 'J': UserClicks(program_.analysis().benchButton); break;
+    case 'K': UserClicks(program_.analysis().simulatorButton); break;
     case 'H':
       platform_.menuAnswer = bytes_.Below(16);
       UserClicks(form.helpButton);

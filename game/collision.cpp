@@ -105,9 +105,9 @@ void QuintaraForm::HitTarget() {
 
 void QuintaraForm::OfferListOfMasters() {
   masters_->Show();
-  masters_->Picture1.Visible = true;
-  masters_->Text1.Visible = true;
-  masters_->Text1.SetFocus();
+  masters_->namePanel.Visible = true;
+  masters_->nameBox.Visible = true;
+  masters_->nameBox.SetFocus();
 }
 
 }  // namespace quintara

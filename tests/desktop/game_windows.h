@@ -58,8 +58,8 @@ class GameWindows : public testing::Test {
   // The offer to the player of a good game, in the list's open window.
   void TypeAName() {
     Do([this] {
-      program.masters().Picture1.Visible = true;
-      program.masters().Text1.SetFocus();
+      program.masters().namePanel.Visible = true;
+      program.masters().nameBox.SetFocus();
     });
   }
   // The controls that the Tab key walks through, from the window on.

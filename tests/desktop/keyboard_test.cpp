@@ -33,7 +33,7 @@ TEST_F(KeyboardTest, TabWalksThroughWhatCanBeUsed) {
   }
   Do([&] {
     program.analysis().Open(HelpTopic::Physics);
-    program.masters().Picture1.Visible = true;
+    program.masters().namePanel.Visible = true;
   });
   const std::pair<Form&, Names> orders[] = {
       {program.trajectory(), {"HScroll1", "HScroll2", "HScroll3", "cmdFire", "Slider1", "cmdCancel"}},
@@ -135,8 +135,8 @@ TEST_F(KeyboardTest, LettersWorkTheConsoleAndNotWhatCannotBeUsed) {
   MastersForm& masters = program.masters();
   Open(masters);
   TypeAName();
-  QTest::keyClicks(&WidgetOf(masters.Text1), "F. S. Major");
-  EXPECT_EQ(masters.Text1.Text.Get(), "F. S. Major");
+  QTest::keyClicks(&WidgetOf(masters.nameBox), "F. S. Major");
+  EXPECT_EQ(masters.nameBox.Text.Get(), "F. S. Major");
   EXPECT_EQ(heard.size(), 2U);
 }
 
@@ -167,7 +167,7 @@ TEST_F(KeyboardTest, EscapeClosesSideWindowsOnly) {
   MastersForm& masters = program.masters();
   Open(masters);
   std::vector<int> keys;
-  masters.Text1.KeyPress.Bind([&](std::int16_t key) { keys.push_back(key); });
+  masters.nameBox.KeyPress.Bind([&](std::int16_t key) { keys.push_back(key); });
   TypeAName();
   Press(Qt::Key_Escape);
   EXPECT_EQ(keys, std::vector<int>{27});
@@ -178,18 +178,18 @@ TEST_F(KeyboardTest, ADocumentIsReadAndCopiedWithKeys) {
   AnalysisForm& analysis = program.analysis();
   Do([&] {
     analysis.Open(HelpTopic::Rules);
-    analysis.rtbMath.TextRTF = std::string("{\\rtf1 one two\\par three}");
+    analysis.documentBox.TextRTF = std::string("{\\rtf1 one two\\par three}");
   });
   Activate(analysis);
   QGuiApplication::clipboard()->setText("before");
-  WidgetOf(analysis.rtbMath).setFocus();
+  WidgetOf(analysis.documentBox).setFocus();
   Press(Qt::Key_C, Qt::ControlModifier);
   EXPECT_EQ(QGuiApplication::clipboard()->text(), "before") << "nothing is selected";
   for (int i = 0; i < 3; ++i) Press(Qt::Key_Right, Qt::ShiftModifier);
-  EXPECT_TRUE(analysis.cmdCopy.Enabled);
+  EXPECT_TRUE(analysis.copyButton.Enabled);
   Press(Qt::Key_C, Qt::ControlModifier);
   EXPECT_EQ(QGuiApplication::clipboard()->text(), "one");
-  WidgetOf(analysis.cmdCancel).setFocus();
+  WidgetOf(analysis.cancelButton).setFocus();
   QGuiApplication::clipboard()->clear();
   Press(Qt::Key_C, Qt::ControlModifier);
   EXPECT_EQ(QGuiApplication::clipboard()->text(), "one") << "wherever in the window the focus is";

@@ -180,7 +180,7 @@ TEST_F(GameZoomTest, KeysChangeTheSizeOfAllWindows) {
   TypeAName();
   Press(Qt::Key_Plus, Qt::ControlModifier);
   EXPECT_EQ(session.zoom(), Zoom()) << "a text box has the focus";
-  EXPECT_EQ(program.masters().Text1.Text.Get(), "");
+  EXPECT_EQ(program.masters().nameBox.Text.Get(), "");
 }
 
 TEST_F(GameZoomTest, AWindowThatIsTooLargeFitsTheScreenInProportion) {

@@ -204,8 +204,8 @@ TEST(RulesTest, TheBestGameAndTheMastersNeedThePointsTheySay) {
     MastersForm& masters = other.program.masters();
     EXPECT_EQ(masters.IsVisible(), entry != nullptr) << score;
     if (entry == nullptr) continue;
-    UserTypes(masters.Text1, 13);
-    EXPECT_EQ(masters.List1.List(0), entry);
+    UserTypes(masters.nameBox, 13);
+    EXPECT_EQ(masters.list.List(0), entry);
   }
 }
 

@@ -95,7 +95,7 @@ TEST_F(CommandsTest, BoxesTakeTheAnswersInTheirOrder) {
     EXPECT_TRUE(reply.ends_with(" 48 \"Uninstall Quintara\" -> " + std::string(answer) + "\nok\n")) << reply;
   }
   Choose("mnuMasters");
-  program.masters().List1.AddItem("Ada");
+  program.masters().list.AddItem("Ada");
   EXPECT_EQ(Say("click frmMasters.cmdRemove"),
             "! box \"Are you sure you want to erase all names from the Quintara Master list?\" 52 "
             "\"Removing names\" -> 7\nok\n");

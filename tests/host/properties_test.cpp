@@ -59,7 +59,7 @@ TEST_F(PropertiesTest, AssignmentsAreReadBack) {
 
 TEST_F(PropertiesTest, WhatIsWrongIsRefusedAndChangesNothing) {
   Say("set frmTrajectory.Left 0\nset frmMasters.Left 0\nset Analysis.Left 0");
-  program.masters().List1.AddItem("Ada");
+  program.masters().list.AddItem("Ada");
   const std::string before = Say("dump");
   ExpectRefused(
       "get Quintara|get .Left|get Quintara.|get Quintara.left|get quintara.Left|get Nobody.Left|"
@@ -90,7 +90,7 @@ TEST_F(PropertiesTest, AScaleCountsAnewAndMovesNothing) {
       "ok\nok\nok\nok\n");
   EXPECT_EQ(Get("About.ScaleMode"), "0");
   EXPECT_EQ(Get("About.ScaleWidth"), "10");
-  EXPECT_EQ(program.about().cmdOK.Surface().left, 750);
+  EXPECT_EQ(program.about().okButton.Surface().left, 750);
   Say("set About.Width 90");
   ExpectRefused("set About.ScaleWidth 10");
 }
