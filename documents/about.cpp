@@ -5,11 +5,11 @@
 namespace quintara {
 
 AboutForm::AboutForm(Scene& owner) : AboutControls(owner) {
-  Bind(Load, &AboutForm::Form_Load);
+  Bind(Load, &AboutForm::CentreOnScreen);
   Bind(okButton.Click, &AboutForm::cmdOK_Click);
 }
 
-void AboutForm::Form_Load() {
+void AboutForm::CentreOnScreen() {
   Left = scene().ScreenWidth() / 2 - Width / 2;
   Top = scene().ScreenHeight() / 2 - Height / 2;
 }

@@ -10,7 +10,7 @@ class AboutForm : public AboutControls {
   explicit AboutForm(Scene& scene);
 
  private:
-  void Form_Load();
+  void CentreOnScreen();
   void cmdOK_Click();
 };
 

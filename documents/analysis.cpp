@@ -4,18 +4,14 @@
 
 namespace quintara {
 
-AnalysisForm::AnalysisForm(Scene& owner, const MainForm& mainForm, ProjectileForm& projectileForm,
-                           TrajectoryForm& trajectoryForm)
-    : AnalysisControls(owner),
-      Analysis(*this),
-      main_(mainForm),
-      projectile(projectileForm),
-      frmTrajectory(trajectoryForm) {
-  Bind(documentBox.SelChange, &AnalysisForm::rtbMath_SelChange);
-  Bind(copyButton.Click, &AnalysisForm::cmdCopy_Click);
-  Bind(benchButton.Click, &AnalysisForm::cmdFreeFall_Click);
-  Bind(simulatorButton.Click, &AnalysisForm::cmdTrajectory_Click);
-  Bind(cancelButton.Click, &AnalysisForm::cmdCancel_Click);
+AnalysisForm::AnalysisForm(Scene& owner, const MainForm& main, ProjectileForm& benchForm,
+                           TrajectoryForm& simulatorForm)
+    : AnalysisControls(owner), self(*this), mainForm(main), bench(benchForm), simulator(simulatorForm) {
+  Bind(documentBox.SelChange, &AnalysisForm::OfferCopy);
+  Bind(copyButton.Click, &AnalysisForm::CopySelection);
+  Bind(benchButton.Click, &AnalysisForm::OpenBench);
+  Bind(simulatorButton.Click, &AnalysisForm::OpenSimulator);
+  Bind(cancelButton.Click, &AnalysisForm::CloseWithDemonstrations);
 }
 
 void AnalysisForm::Open(HelpTopic topic) {
@@ -30,56 +26,56 @@ void AnalysisForm::Open(HelpTopic topic) {
   cancelButton.Top = document.cancelTop;
   copyButton.Left = document.copyLeft;
   copyButton.Top = document.copyTop;
-  main_.valleyName.Visible = document.placeNames;
-  main_.peakName.Visible = document.placeNames;
+  mainForm.valleyName.Visible = document.placeNames;
+  mainForm.peakName.Visible = document.placeNames;
   simulatorButton.Visible = document.demonstrations;
   benchButton.Visible = document.demonstrations;
-  ReadDocumentInto(documentBox, main_.shared.programFolder, document.file);
+  ReadDocumentInto(documentBox, mainForm.shared.programFolder, document.file);
   Show();
 }
 
 void AnalysisForm::TakePosition(DocumentPosition position) {
   if (position == DocumentPosition::Beside) {
-    Left = main_.form.Left + 80;
-    Top = main_.form.Top + 340;
+    Left = mainForm.form.Left + 80;
+    Top = mainForm.form.Top + 340;
     return;
   }
-  Left = main_.form.Width / 2 - Width / 2;
-  Top = main_.form.Height / 2 - (position == DocumentPosition::Centred ? Height / 2 : 0);
+  Left = mainForm.form.Width / 2 - Width / 2;
+  Top = mainForm.form.Height / 2 - (position == DocumentPosition::Centred ? Height / 2 : 0);
 }
 
 // Nothing switches the button off again while the window stays open.
-void AnalysisForm::rtbMath_SelChange() {
+void AnalysisForm::OfferCopy() {
   if (documentBox.SelLength() > 0) copyButton.Enabled = true;
 }
 
-void AnalysisForm::cmdCopy_Click() {
+void AnalysisForm::CopySelection() {
   if (documentBox.SelLength() > 0) scene().platform().PutOnClipboard(documentBox.SelText());
 }
 
-void AnalysisForm::cmdFreeFall_Click() {
-  projectile->Show();
-  PlaceBesideMainForm(*projectile);
+void AnalysisForm::OpenBench() {
+  bench->Show();
+  PlaceBesideMainForm(*bench);
 }
 
-void AnalysisForm::cmdTrajectory_Click() {
-  frmTrajectory->Show();
-  PlaceBesideMainForm(*frmTrajectory);
+void AnalysisForm::OpenSimulator() {
+  simulator->Show();
+  PlaceBesideMainForm(*simulator);
 }
 
 void AnalysisForm::PlaceBesideMainForm(Form& demonstration) {
-  demonstration.Left = main_.form.Left + 6200;
-  demonstration.Top = main_.form.Top + 1500;
+  demonstration.Left = mainForm.form.Left + 6200;
+  demonstration.Top = mainForm.form.Top + 1500;
 }
 
-void AnalysisForm::cmdCancel_Click() {
-  Analysis.Unload();
-  main_.valleyName.Visible = false;
-  main_.peakName.Visible = false;
-  frmTrajectory.Unload();
-  projectile.Unload();
+void AnalysisForm::CloseWithDemonstrations() {
+  self.Unload();
+  mainForm.valleyName.Visible = false;
+  mainForm.peakName.Visible = false;
+  simulator.Unload();
+  bench.Unload();
   // This touch loads the form again, hidden; it is meant so that the next opening starts with the button off.
-  Analysis->copyButton.Enabled = false;
+  self->copyButton.Enabled = false;
 }
 
 void ReadDocumentInto(RichTextBox& box, const std::string& folder, std::string_view name) {

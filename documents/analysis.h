@@ -13,25 +13,24 @@ namespace quintara {
 // windows.
 class AnalysisForm : public AnalysisControls {
  public:
-  AnalysisForm(Scene& scene, const MainForm& mainForm, ProjectileForm& projectile,
-               TrajectoryForm& frmTrajectory);
+  AnalysisForm(Scene& scene, const MainForm& mainForm, ProjectileForm& bench, TrajectoryForm& simulator);
 
   // Lays the window out for a topic, reads its document and shows it. An open window takes on the new one.
   void Open(HelpTopic topic);
 
  private:
-  void rtbMath_SelChange();
-  void cmdCopy_Click();
-  void cmdFreeFall_Click();
-  void cmdTrajectory_Click();
-  void cmdCancel_Click();
+  void OfferCopy();
+  void CopySelection();
+  void OpenBench();
+  void OpenSimulator();
+  void CloseWithDemonstrations();
   void TakePosition(DocumentPosition position);
   void PlaceBesideMainForm(Form& demonstration);
 
-  FormHandle<AnalysisForm> Analysis;  // this form, for what goes on after its own unloading
-  MainForm main_;
-  FormHandle<ProjectileForm> projectile;
-  FormHandle<TrajectoryForm> frmTrajectory;
+  FormHandle<AnalysisForm> self;  // this form, for what goes on after its own unloading
+  MainForm mainForm;
+  FormHandle<ProjectileForm> bench;
+  FormHandle<TrajectoryForm> simulator;
 };
 
 // Reads a document of the program's folder into a box. Where it can't be read, the box says so and names the

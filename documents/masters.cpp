@@ -12,18 +12,18 @@ constexpr double grandMasterPoints = 45;
 
 }  // namespace
 
-MastersForm::MastersForm(Scene& owner, const MainForm& mainForm) : MastersControls(owner), main_(mainForm) {
-  Bind(Load, &MastersForm::Form_Load);
-  Bind(nameBox.KeyPress, &MastersForm::Text1_KeyPress);
-  Bind(removeButton.Click, &MastersForm::cmdRemove_Click);
+MastersForm::MastersForm(Scene& owner, const MainForm& main) : MastersControls(owner), mainForm(main) {
+  Bind(Load, &MastersForm::ReadList);
+  Bind(nameBox.KeyPress, &MastersForm::EnterName);
+  Bind(removeButton.Click, &MastersForm::RemoveNames);
   Bind(cancelButton.Click, &MastersForm::cmdCancel_Click);
 }
 
-void MastersForm::Form_Load() {
-  const std::string path = main_.shared.programFolder + "Masters.txt";
+void MastersForm::ReadList() {
+  const std::string path = mainForm.shared.programFolder + "Masters.txt";
   const auto lines = scene().files().ReadLines(path);
-  fileIsUnread_ = !lines && scene().files().Exists(path);
-  if (fileIsUnread_) {
+  fileIsUnread = !lines && scene().files().Exists(path);
+  if (fileIsUnread) {
     scene().TellFault(
         "The list of masters in the file Masters.txt could not be read. The file is left as it is.");
   }
@@ -31,9 +31,9 @@ void MastersForm::Form_Load() {
   for (const std::string& line : *lines) list.AddItem(line);
 }
 
-void MastersForm::Text1_KeyPress(std::int16_t KeyAscii) {
-  if (KeyAscii != enter) return;
-  const double points = Val(main_.score.Caption);
+void MastersForm::EnterName(std::int16_t key) {
+  if (key != enter) return;
+  const double points = Val(mainForm.score.Caption);
   if (points >= masterPoints && points < grandMasterPoints) {
     list.AddItem(nameBox.Text.Get() + " - Master of Quintara");
   } else if (points >= grandMasterPoints) {
@@ -41,10 +41,10 @@ void MastersForm::Text1_KeyPress(std::int16_t KeyAscii) {
   }
   namePanel.Visible = false;
   SaveList();
-  main_.shared.PlayUnlessSoundIsOff(scene(), "gong.wav");
+  mainForm.shared.PlayUnlessSoundIsOff(scene(), "gong.wav");
 }
 
-void MastersForm::cmdRemove_Click() {
+void MastersForm::RemoveNames() {
   constexpr std::int32_t yesNoWithExclamation = 52;
   constexpr std::int32_t yes = 6;
   const std::int32_t answer =
@@ -61,7 +61,8 @@ void MastersForm::cmdCancel_Click() {
 }
 
 void MastersForm::SaveList() {
-  if (!fileIsUnread_ && scene().files().WriteLines(main_.shared.programFolder + "Masters.txt", list.items()))
+  if (!fileIsUnread &&
+      scene().files().WriteLines(mainForm.shared.programFolder + "Masters.txt", list.items()))
     return;
   scene().TellFault(
       "The list of masters could not be saved in the file Masters.txt. The file was left as it is; the list "

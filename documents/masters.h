@@ -12,15 +12,15 @@ class MastersForm : public MastersControls {
   MastersForm(Scene& scene, const MainForm& mainForm);
 
  private:
-  void Form_Load();
-  void Text1_KeyPress(std::int16_t KeyAscii);
-  void cmdRemove_Click();
+  void ReadList();
+  void EnterName(std::int16_t key);
+  void RemoveNames();
   void cmdCancel_Click();
   void SaveList();
 
-  MainForm main_;
+  MainForm mainForm;
   // Something lies in the file's place that could not be read, and must not be lost.
-  bool fileIsUnread_ = false;
+  bool fileIsUnread = false;
 };
 
 }  // namespace quintara

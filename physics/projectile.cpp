@@ -6,78 +6,78 @@
 namespace quintara {
 
 ProjectileForm::ProjectileForm(Scene& owner) : ProjectileControls(owner) {
-  Bind(Load, &ProjectileForm::Form_Load);
-  Bind(QueryUnload, &ProjectileForm::Form_QueryUnload);
-  Bind(ball1Button.Click, &ProjectileForm::cmdBall1_Click);
-  Bind(ball2Button.Click, &ProjectileForm::cmdBall2_Click);
-  Bind(ball3Button.Click, &ProjectileForm::cmdBall3_Click);
-  Bind(resetButton.Click, &ProjectileForm::cmdReset_Click);
-  Bind(stopButton.Click, &ProjectileForm::cmdStop_Click);
+  Bind(Load, &ProjectileForm::SetUp);
+  Bind(QueryUnload, &ProjectileForm::UnloadRailNumbers);
+  Bind(ball1Button.Click, &ProjectileForm::StartBall1);
+  Bind(ball2Button.Click, &ProjectileForm::StartBall2);
+  Bind(ball3Button.Click, &ProjectileForm::StartBall3);
+  Bind(resetButton.Click, &ProjectileForm::PutBack);
+  Bind(stopButton.Click, &ProjectileForm::StopOrGo);
   Bind(cancelButton.Click, &ProjectileForm::cmdCancel_Click);
-  Bind(ballTimer.Tick, &ProjectileForm::tmrStart_Timer);
+  Bind(ballTimer.Tick, &ProjectileForm::TickBalls);
 }
 
-void ProjectileForm::Form_Load() {
+void ProjectileForm::SetUp() {
   Left = 5000;
   Top = 4000;
   StopTimer();
   // A window closed in a run or after one left these as they stood. Its controls are as new, so the next run
   // has to begin at the start too, and Stop has to mean Stop.
   ForgetRun();
-  mBallsPaused = 0;
+  paused = 0;
   LoadScales();
   LayDial();
 }
 
 void ProjectileForm::LoadScales() {
-  for (mLoopIndex = 1; mLoopIndex <= 8; ++mLoopIndex) {
-    fallNumbers.Load(mLoopIndex);
-    dialNumbers.Load(mLoopIndex);
-    railTicks.Load(mLoopIndex);
-    fallTicks.Load(mLoopIndex);
+  for (loopIndex = 1; loopIndex <= 8; ++loopIndex) {
+    fallNumbers.Load(loopIndex);
+    dialNumbers.Load(loopIndex);
+    railTicks.Load(loopIndex);
+    fallTicks.Load(loopIndex);
   }
-  for (mLoopIndex = 1; mLoopIndex <= 7; ++mLoopIndex) railNumbers.Load(mLoopIndex);
+  for (loopIndex = 1; loopIndex <= 7; ++loopIndex) railNumbers.Load(loopIndex);
 }
 
 // Eight positions of 45 degrees, numbered 0 to 7 clockwise from the top. The ninth number stays hidden: its
 // place is the 0.
 void ProjectileForm::LayDial() {
   dial.Visible = true;
-  mDialX = 500;
-  mDialY = 500;
-  mDialBase = 200;
-  mDialStep = 141.372 / 180;
+  dialX = 500;
+  dialY = 500;
+  dialBase = 200;
+  dialStep = 141.372 / 180;
   dialHand.Visible = true;
-  for (mLoopIndex = 1; mLoopIndex <= 7; ++mLoopIndex) {
-    Label& number = dialNumbers(mLoopIndex);
-    number.Left = mDialX - number.Width / 2 + (mDialBase + 200) * Sin(mLoopIndex * mDialStep);
-    number.Top = mDialY - number.Width / 2 - (mDialBase + 200) * Cos(mLoopIndex * mDialStep);
-    number.Caption = ToText(mLoopIndex);
+  for (loopIndex = 1; loopIndex <= 7; ++loopIndex) {
+    Label& number = dialNumbers(loopIndex);
+    number.Left = dialX - number.Width / 2 + (dialBase + 200) * Sin(loopIndex * dialStep);
+    number.Top = dialY - number.Width / 2 - (dialBase + 200) * Cos(loopIndex * dialStep);
+    number.Caption = ToText(loopIndex);
     number.Visible = true;
   }
   // Set by eye, a little to the right of where the circle would have it.
-  Place(dialNumbers(0), mDialX - 80, mDialY - 460);
+  Place(dialNumbers(0), dialX - 80, dialY - 460);
   dialNumbers(0).Caption = "0";
   dialNumbers(0).Visible = true;
 }
 
 // Everything else that Load made goes with the form.
-void ProjectileForm::Form_QueryUnload() {
-  for (mLoopIndex = 1; mLoopIndex <= 7; ++mLoopIndex) railNumbers.Unload(mLoopIndex);
+void ProjectileForm::UnloadRailNumbers() {
+  for (loopIndex = 1; loopIndex <= 7; ++loopIndex) railNumbers.Unload(loopIndex);
 }
 
-void ProjectileForm::cmdBall1_Click() {
-  StartRun(linear);
+void ProjectileForm::StartBall1() {
+  Start(linear);
 }
-void ProjectileForm::cmdBall2_Click() {
-  StartRun(falling);
+void ProjectileForm::StartBall2() {
+  Start(falling);
 }
-void ProjectileForm::cmdBall3_Click() {
-  StartRun(combined);
+void ProjectileForm::StartBall3() {
+  Start(combined);
 }
 
-void ProjectileForm::StartRun(std::int16_t mode) {
-  mBallMode = mode;
+void ProjectileForm::Start(std::int16_t mode) {
+  run = mode;
   for (CommandButton* button : {&ball1Button, &ball2Button, &ball3Button}) button->Enabled = false;
   ballTimer.Interval = 50;
   ballTimer.Enabled = true;
@@ -89,27 +89,27 @@ void ProjectileForm::StopTimer() {
 }
 
 // Ball 3 comes last: it takes the places that the others have reached in the same tick.
-void ProjectileForm::tmrStart_Timer() {
-  if (mBallMode == linear || mBallMode == combined) StepHorizontalBall();
-  if (mBallMode == falling || mBallMode == combined) StepFallingBall();
-  if (mBallMode == combined) StepCombinedBall();
+void ProjectileForm::TickBalls() {
+  if (run == linear || run == combined) StepBall1();
+  if (run == falling || run == combined) StepBall2();
+  if (run == combined) StepBall3();
 }
 
 // Stops and goes on at any time, also where nothing runs: it only knows the timer and its own last click.
-void ProjectileForm::cmdStop_Click() {
-  if (mBallsPaused == 0) {
+void ProjectileForm::StopOrGo() {
+  if (paused == 0) {
     stopButton.Caption = "Go";
     StopTimer();
-    mBallsPaused = 1;
+    paused = 1;
   } else {
     stopButton.Caption = "Stop";
     ballTimer.Interval = 50;
     ballTimer.Enabled = true;
-    mBallsPaused = 0;
+    paused = 0;
   }
 }
 
-void ProjectileForm::cmdReset_Click() {
+void ProjectileForm::PutBack() {
   Cls();
   StopTimer();
   ForgetRun();
@@ -123,10 +123,10 @@ void ProjectileForm::cmdReset_Click() {
 }
 
 void ProjectileForm::ForgetRun() {
-  mBallMode = idle;
-  mBallX = 0;
-  mBallY = 0;
-  mBallVy = 0;
+  run = idle;
+  wayRun = 0;
+  fallHeight = 0;
+  fallVelocity = 0;
 }
 
 void ProjectileForm::PutBallsBack() {
@@ -144,7 +144,7 @@ void ProjectileForm::PutBenchBack() {
   sightLineAcross.X2 = ball3.Left;
   sightLineAcross.Y1 = ball3.Width / 2 + ball3.Top;
   sightLineAcross.Y2 = ball3.Width / 2 + ball3.Top;
-  LaySightLine();
+  LaySightLineDown();
   sightLineDown.Visible = false;
   trap.X1 = 0;
   trap.Y1 = 720;
@@ -167,9 +167,9 @@ void ProjectileForm::HideVectors() {
 }
 
 void ProjectileForm::HideScales() {
-  for (mLoopIndex = 0; mLoopIndex <= 8; ++mLoopIndex)
-    SetVisible(false, railTicks(mLoopIndex), fallTicks(mLoopIndex), fallNumbers(mLoopIndex));
-  for (mLoopIndex = 0; mLoopIndex <= 7; ++mLoopIndex) railNumbers(mLoopIndex).Visible = false;
+  for (loopIndex = 0; loopIndex <= 8; ++loopIndex)
+    SetVisible(false, railTicks(loopIndex), fallTicks(loopIndex), fallNumbers(loopIndex));
+  for (loopIndex = 0; loopIndex <= 7; ++loopIndex) railNumbers(loopIndex).Visible = false;
   metresText.Visible = false;
 }
 

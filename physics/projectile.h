@@ -14,22 +14,22 @@ class ProjectileForm : public ProjectileControls {
   explicit ProjectileForm(Scene& scene);
 
  private:
-  // What runs, as mBallMode says it.
+  // What runs, as run says it.
   static constexpr std::int16_t idle = 0, linear = 1, falling = 2, combined = 3;
 
   // projectile.cpp
-  void Form_Load();
-  void Form_QueryUnload();
-  void cmdBall1_Click();
-  void cmdBall2_Click();
-  void cmdBall3_Click();
-  void cmdReset_Click();
-  void cmdStop_Click();
+  void SetUp();
+  void UnloadRailNumbers();
+  void StartBall1();
+  void StartBall2();
+  void StartBall3();
+  void PutBack();
+  void StopOrGo();
   void cmdCancel_Click();
-  void tmrStart_Timer();
+  void TickBalls();
   void LoadScales();
   void LayDial();
-  void StartRun(std::int16_t mode);
+  void Start(std::int16_t mode);
   void StopTimer();
   void ForgetRun();
   void PutBallsBack();
@@ -38,14 +38,14 @@ class ProjectileForm : public ProjectileControls {
   void HideVectors();
 
   // projectile_balls.cpp
-  void StepHorizontalBall();
-  void StepFallingBall();
-  void StepCombinedBall();
+  void StepBall1();
+  void StepBall2();
+  void StepBall3();
   void PassRailBand();
   void Fall();
   void DrawFall();
   void PassFallBand();
-  void LaySightLine();
+  void LaySightLineDown();
   void LayResultant();
   void MoveHand(int position);
   void OfferReset();
@@ -61,21 +61,21 @@ class ProjectileForm : public ProjectileControls {
     box.Top = top;
   }
 
-  std::int16_t mBallMode = idle;
-  std::int16_t mBallRate = 0;  // twips a second that the steps of balls 1 and 2 each add to mBallX
-  Single mBallX;               // twips run so far; ball 1 stands at mBallX + 500
-  Single mBallVy;              // m/s, negative downwards
-  Single mBallY;               // metres, negative downwards, 0 at the start
-  Single mShownVy;             // what vyText says, a whole multiple of -9.8 m/s
-  Single mBallsPaused;         // 1: the next click on stopButton lets the timer run
+  std::int16_t run = idle;
+  std::int16_t rate = 0;  // twips a second that the steps of balls 1 and 2 each add to wayRun
+  Single wayRun;          // twips run so far; ball 1 stands at wayRun + 500
+  Single fallVelocity;    // m/s, negative downwards
+  Single fallHeight;      // metres, negative downwards, 0 at the start
+  Single shownVelocity;   // what vyText says, a whole multiple of -9.8 m/s
+  Single paused;          // 1: the next click on stopButton lets the timer run
 
-  Single mDialX, mDialY;  // centre of the dial, twips
-  Single mDialBase;       // what its radii are counted from
-  Single mDialStep;       // angle between two of its positions, radians
+  Single dialX, dialY;  // centre of the dial, twips
+  Single dialBase;      // what its radii are counted from
+  Single dialStep;      // angle between two of its positions, radians
 
-  Single mArrowRad, mArrowComplement;  // angle of the resultant arrow below the horizontal, and what is left
-                                       // of a right angle
-  std::int16_t mLoopIndex = 0;
+  Single angle, complement;  // angle of the resultant arrow below the horizontal, and what is left
+                             // of a right angle
+  std::int16_t loopIndex = 0;
 };
 
 }  // namespace quintara

@@ -39,7 +39,7 @@ constexpr RailBand railBands[bandCount] = {
     {{5940, noLimit}, "560", Effect::EndsRun},
 };
 
-// One second of the fall, by mBallVy.
+// One second of the fall, by fallVelocity.
 struct FallBand {
   Span velocity;
   int marks;  // how many ticks of the scale, up to its own, a fall on its own shows
@@ -78,24 +78,24 @@ bool LiesInOneOf(const Spans& spans, double value) {
 
 }  // namespace
 
-void ProjectileForm::StepHorizontalBall() {
+void ProjectileForm::StepBall1() {
   SetVisible(true, xArrow, xUpperBarb, xLowerBarb, vxText, vxSymbol, panelBall1, panelDigit1);
-  if (mBallMode == linear) metresText.Visible = true;
+  if (run == linear) metresText.Visible = true;
   // The plunger has struck.
   plunger1.X1 = 420;
   plunger1.X2 = 560;
   plunger1.BorderColor = 0x80000002;
 
-  mBallRate = mBallMode == combined ? 375 : 750;
-  mBallX = mBallRate * 0.05 + mBallX;
-  Place(ball1, mBallX + 500, 105);
-  Place(digit1, mBallX + 560, 145);
+  rate = run == combined ? 375 : 750;
+  wayRun = rate * 0.05 + wayRun;
+  Place(ball1, wayRun + 500, 105);
+  Place(digit1, wayRun + 560, 145);
 
-  for (mLoopIndex = 0; mLoopIndex <= 7; ++mLoopIndex) {
-    railTicks(mLoopIndex).X1 = 1025 + 725 * mLoopIndex;
-    railTicks(mLoopIndex).X2 = 1025 + 725 * mLoopIndex;
+  for (loopIndex = 0; loopIndex <= 7; ++loopIndex) {
+    railTicks(loopIndex).X1 = 1025 + 725 * loopIndex;
+    railTicks(loopIndex).X2 = 1025 + 725 * loopIndex;
   }
-  if (mBallMode == linear && LiesInOneOf(railBeeps, ball1.Left)) scene().Beep();
+  if (run == linear && LiesInOneOf(railBeeps, ball1.Left)) scene().Beep();
   PassRailBand();
 }
 
@@ -103,7 +103,7 @@ void ProjectileForm::PassRailBand() {
   for (std::int16_t k = 0; k < bandCount; ++k) {
     const RailBand& band = railBands[k];
     if (!band.place.Holds(ball1.Left)) continue;
-    if (mBallMode == linear) SetVisible(true, railTicks(k), railNumbers(k));
+    if (run == linear) SetVisible(true, railTicks(k), railNumbers(k));
     MoveHand(k + 1);
     railNumbers(k).Left = railTicks(k).X1 - 120;
     railNumbers(k).Caption = band.metres;
@@ -116,7 +116,7 @@ void ProjectileForm::PassRailBand() {
   }
 }
 
-void ProjectileForm::StepFallingBall() {
+void ProjectileForm::StepBall2() {
   SetVisible(true, yArrow, yRightBarb, yLeftBarb, vyText, vySymbol, panelBall2, panelDigit2);
   Place(panelBall2, 370, 650);
   Place(panelDigit2, 440, 690);
@@ -126,27 +126,27 @@ void ProjectileForm::StepFallingBall() {
   PassFallBand();
 }
 
-// Beside ball 1 the rate is its 375, half of that of a ball alone: both steps add to mBallX, so that a second
+// Beside ball 1 the rate is its 375, half of that of a ball alone: both steps add to wayRun, so that a second
 // is as long as ever.
 void ProjectileForm::Fall() {
-  if (mBallMode == falling) mBallRate = 750;
-  mBallX = mBallRate * 0.05 + mBallX;
-  mBallVy = mBallVy - 0.49;
-  mBallY = mBallVy * 0.05 + mBallY + 0.05 * 0.05 * (0.5 * -9.8);
+  if (run == falling) rate = 750;
+  wayRun = rate * 0.05 + wayRun;
+  fallVelocity = fallVelocity - 0.49;
+  fallHeight = fallVelocity * 0.05 + fallHeight + 0.05 * 0.05 * (0.5 * -9.8);
   // Nothing need run along the rail: the hidden line carries the place there that the beeps go by.
   sightLineDown.Visible = false;
-  sightLineDown.X2 = mBallX + 500;
+  sightLineDown.X2 = wayRun + 500;
 }
 
 void ProjectileForm::DrawFall() {
-  Place(ball2, 0, 480 - mBallY * 12.8);
-  Place(digit2, 60, 520 - mBallY * 12.8);
+  Place(ball2, 0, 480 - fallHeight * 12.8);
+  Place(digit2, 60, 520 - fallHeight * 12.8);
   // The trap hangs open.
   trap.X1 = 300;
   trap.Y1 = 960;
 
   sightLineAcross.X1 = ball2.Width + ball2.Left;
-  if (mBallMode == falling) {
+  if (run == falling) {
     sightLineAcross.X2 = 6500;
     metresText.Visible = true;
   }
@@ -164,25 +164,25 @@ void ProjectileForm::DrawFall() {
 void ProjectileForm::PassFallBand() {
   for (std::int16_t k = 0; k < bandCount; ++k) {
     const FallBand& band = fallBands[k];
-    if (!band.velocity.Holds(mBallVy) || !(ball2.Top > band.lowerThan)) continue;
-    if (mBallMode == falling) {
-      for (mLoopIndex = static_cast<std::int16_t>(k - band.marks + 1); mLoopIndex <= k; ++mLoopIndex)
-        SetVisible(true, fallTicks(mLoopIndex), fallNumbers(mLoopIndex));
+    if (!band.velocity.Holds(fallVelocity) || !(ball2.Top > band.lowerThan)) continue;
+    if (run == falling) {
+      for (loopIndex = static_cast<std::int16_t>(k - band.marks + 1); loopIndex <= k; ++loopIndex)
+        SetVisible(true, fallTicks(loopIndex), fallNumbers(loopIndex));
     }
-    fallTicks(k).Y1 = 640 - mBallY * 12.8;
-    fallTicks(k).Y2 = 640 - mBallY * 12.8;
-    fallNumbers(k).Top = 520 - mBallY * 12.8;
+    fallTicks(k).Y1 = 640 - fallHeight * 12.8;
+    fallTicks(k).Y2 = 640 - fallHeight * 12.8;
+    fallNumbers(k).Top = 520 - fallHeight * 12.8;
     fallNumbers(k).Caption = band.metres;
     MoveHand(k + 1);
-    mShownVy = band.shownVelocity;
-    vyText.Caption = "= " + ToText(mShownVy) + " m/s";
+    shownVelocity = band.shownVelocity;
+    vyText.Caption = "= " + ToText(shownVelocity) + " m/s";
     if (band.effect == Effect::OffersReset) OfferReset();
     if (band.effect == Effect::EndsRun) StopTimer();
     return;
   }
 }
 
-void ProjectileForm::StepCombinedBall() {
+void ProjectileForm::StepBall3() {
   metresText.Visible = false;
   plunger3.X1 = 420;
   plunger3.X2 = 560;
@@ -194,7 +194,7 @@ void ProjectileForm::StepCombinedBall() {
 
   DrawWidth = 2;
   PSet(ball3.Left - 20, ball3.Top + 60, QBColor(6));
-  LaySightLine();
+  LaySightLineDown();
 
   SetVisible(true, xArrow, resultantArrow, yArrow, xUpperBarb, xLowerBarb, resultantUpperBarb,
              resultantLowerBarb, yRightBarb, yLeftBarb, guideDown, guideAcross);
@@ -205,7 +205,7 @@ void ProjectileForm::StepCombinedBall() {
 }
 
 // From ball 1 down to ball 3.
-void ProjectileForm::LaySightLine() {
+void ProjectileForm::LaySightLineDown() {
   sightLineDown.X1 = ball1.Width / 2 + ball1.Left;
   sightLineDown.X2 = ball1.Width / 2 + ball1.Left;
   sightLineDown.Y1 = ball1.Width + ball1.Top;
@@ -216,13 +216,13 @@ void ProjectileForm::LaySightLine() {
 void ProjectileForm::LayResultant() {
   resultantArrow.X1 = xArrow.X2;
   resultantArrow.Y1 = FallArrow() + yArrow.Y2;
-  mArrowRad = Atn((resultantArrow.Y1 - xArrow.Y1) / (xArrow.X2 - xArrow.X1));
-  mArrowComplement = 3.1416 / 2 - mArrowRad;
+  angle = Atn((resultantArrow.Y1 - xArrow.Y1) / (xArrow.X2 - xArrow.X1));
+  complement = 3.1416 / 2 - angle;
 
   xUpperBarb.Lay({xArrow.X2 + 60, xArrow.Y2, xArrow.X2, xArrow.Y2 - 60});
   xLowerBarb.Lay({xArrow.X2 + 60, xArrow.Y2, xArrow.X2, xArrow.Y2 + 60});
 
-  const double x = resultantArrow.X1, y = resultantArrow.Y1, a = mArrowRad, b = mArrowComplement;
+  const double x = resultantArrow.X1, y = resultantArrow.Y1, a = angle, b = complement;
   const double tipX = x + 60 * Cos(a), tipY = y + 60 * Sin(a);
   resultantUpperBarb.Lay({tipX, tipY, x + 60 * Sin(a), y - 60 * Cos(a)});
   resultantLowerBarb.Lay({tipX, tipY, x - 60 * Cos(b), y + 60 * Sin(b)});
@@ -234,8 +234,8 @@ void ProjectileForm::LayResultant() {
 
 // Position 8 is the top again.
 void ProjectileForm::MoveHand(int position) {
-  dialHand.X2 = mDialX + (mDialBase + 80) * Sin(position * mDialStep);
-  dialHand.Y2 = mDialY - (mDialBase + 80) * Cos(position * mDialStep);
+  dialHand.X2 = dialX + (dialBase + 80) * Sin(position * dialStep);
+  dialHand.Y2 = dialY - (dialBase + 80) * Cos(position * dialStep);
 }
 
 void ProjectileForm::OfferReset() {

@@ -16,7 +16,7 @@ class TrajectoryForm : public TrajectoryControls {
 
  private:
   // trajectory.cpp
-  void Form_Load();
+  void SetUp();
   void LayAxes();
   void TakeElevation();
   void TakeVelocity();
@@ -24,14 +24,14 @@ class TrajectoryForm : public TrajectoryControls {
   void cmdCancel_Click();
 
   // trajectory_flight.cpp
-  void HScroll1_Change();
-  void HScroll2_Change();
-  void HScroll3_Change();
-  void Slider1_Scroll();
-  void cmdFire_Click();
-  void cmdStop_Click();
-  void Timer1_Timer();
-  void tmrEvent_Timer();
+  void ReplayElevation();
+  void ReplayVelocity();
+  void ReplayDrag();
+  void TakeBallToDistance();
+  void Fire();
+  void StopOrGo();
+  void TickFlight();
+  void SetPace();
   void Replay(double floor);
   void PlotFlight(double floor);
   void ShowReplayCaptions();
@@ -39,7 +39,7 @@ class TrajectoryForm : public TrajectoryControls {
   void ShowBallAtSlider();
   void SetUpChart();
   void StartFlight(double dt);
-  void StartEventTimer();
+  void StartPaceTimer();
   static double ChartX(Single x) { return x * 7.54 + 12000; }
   static double ChartY(Single y) { return 45000 - y * 7.54; }
   void PlotPoint(Single x, Single y) { PSet(ChartX(x), ChartY(y)); }
@@ -50,8 +50,9 @@ class TrajectoryForm : public TrajectoryControls {
 
   // trajectory_vectors.cpp
   struct ArrowRule {
-    double line12X2, line12Y1, line13Y1;  // how many times 10 x Sin(mResultantRad) each is off the tip
-    double line6Barb;                     // how far the barbs of the upright arrow end below its tip
+    double upperBarbX2, upperBarbY1,
+        lowerBarbY1;  // how many times 10 x Sin(resultantAngle) each is off the tip
+    double yBarbY;    // how far the barbs of the upright arrow end below its tip
   };
   void DrawVectors();
   void DrawVectorsAscending();
@@ -60,15 +61,15 @@ class TrajectoryForm : public TrajectoryControls {
   void DrawArrowHeads(const ArrowRule& rule);
 
   Flight flight;
-  Single mTrajV0;                // initial velocity, m/s
-  Single mTrajElevationRad;      // elevation in radians
-  Single mTrajElevationScroll;   // where elevationBar stands
-  Single mResultantRad;          // angle of the resultant vector
-  Single mResultantComplement;   // what it lacks of a right angle
-  Single mPaceRatio;             // of flight.vx to flight.x, one second after Fire
-  std::int16_t mStepCount = 0;   // counts the steps of a replay
-  std::int16_t mLoopIndex = 0;   // counts the marks of the axes
-  std::int16_t mTrajPaused = 0;  // 1: stopButton holds the flight
+  Single initialVelocity;      // initial velocity, m/s
+  Single elevation;            // elevation in radians
+  Single elevationPosition;    // where elevationBar stands
+  Single resultantAngle;       // angle of the resultant vector
+  Single complement;           // what it lacks of a right angle
+  Single paceRatio;            // of flight.vx to flight.x, one second after Fire
+  std::int16_t stepCount = 0;  // counts the steps of a replay
+  std::int16_t loopIndex = 0;  // counts the marks of the axes
+  std::int16_t paused = 0;     // 1: stopButton holds the flight
 };
 
 }  // namespace quintara

@@ -14,17 +14,17 @@ constexpr double metresPerSliderPosition = 99;
 
 }  // namespace
 
-void TrajectoryForm::HScroll1_Change() {
+void TrajectoryForm::ReplayElevation() {
   TakeElevation();
   Replay(-20);
   speedCaption.Caption = "Velocity at Impact (m/s):";
 }
-void TrajectoryForm::HScroll2_Change() {
+void TrajectoryForm::ReplayVelocity() {
   TakeVelocity();
   Replay(-20);
 }
 // The one curve that ends above the ground: it is followed down to 20 m, not to 20 m below.
-void TrajectoryForm::HScroll3_Change() {
+void TrajectoryForm::ReplayDrag() {
   TakeDrag();
   TakeElevation();
   TakeVelocity();
@@ -38,7 +38,7 @@ void TrajectoryForm::Replay(double floor) {
   vectorPanel.Visible = false;
   distanceSlider.Value = 0;
   StartFlight(fineStep);
-  mStepCount = 1;
+  stepCount = 1;
   SetUpChart();
   Cls();
   PlotFlight(floor);
@@ -56,8 +56,8 @@ void TrajectoryForm::PlotFlight(double floor) {
   std::optional<Single> lastHeightRisen;
   Flight shell = flight;
   const double k = Val(dragText.Caption);
-  const std::int16_t end = EndOfSteps(mTrajV0);
-  for (; mStepCount < end; ++mStepCount) {
+  const std::int16_t end = EndOfSteps(initialVelocity);
+  for (; stepCount < end; ++stepCount) {
     BallisticStep(shell, k);
     if (shell.y > floor) {
       PlotPoint(shell.x, shell.y);
@@ -83,18 +83,18 @@ void TrajectoryForm::ShowReplayCaptions() {
   vyText.Visible = false;
   fireButton.Enabled = true;
   stopButton.Enabled = false;
-  mTrajPaused = 0;
+  paused = 0;
   stopButton.Caption = "Stop";
 }
 
 // The flight up to the slider's distance. A ball that is in the air goes on from there, in fine steps.
-void TrajectoryForm::Slider1_Scroll() {
+void TrajectoryForm::TakeBallToDistance() {
   TakeDrag();
   ball.Visible = false;
   TakeElevation();
   TakeVelocity();
   StartFlight(fineStep);
-  mStepCount = 1;
+  stepCount = 1;
   SetUpChart();
   Cls();
   FlyToSlider();
@@ -110,9 +110,9 @@ void TrajectoryForm::Slider1_Scroll() {
 
 // The step that passes the slider counts along the ground only: height and time are those of the one before.
 void TrajectoryForm::FlyToSlider() {
-  const std::int16_t end = EndOfSteps(mTrajV0);
-  while (mStepCount < end) {
-    ++mStepCount;
+  const std::int16_t end = EndOfSteps(initialVelocity);
+  while (stepCount < end) {
+    ++stepCount;
     StepAlongGround(flight, Val(dragText.Caption));
     if (flight.x > distanceSlider.Value * metresPerSliderPosition) return;
     StepUpwards(flight);
@@ -137,9 +137,9 @@ void TrajectoryForm::ShowBallAtSlider() {
 
 // A flight leaves the captions of x, y and speed as they are: after a replay these run under
 // "Range" and "Height".
-void TrajectoryForm::cmdFire_Click() {
+void TrajectoryForm::Fire() {
   scene().Beep();
-  StartEventTimer();
+  StartPaceTimer();
   SetUpChart();
   vxCaption.Visible = true;
   vyCaption.Visible = true;
@@ -155,14 +155,14 @@ void TrajectoryForm::cmdFire_Click() {
   stopButton.Enabled = true;
 }
 
-void TrajectoryForm::cmdStop_Click() {
-  mTrajPaused = mTrajPaused == 0 ? 1 : 0;
-  stopButton.Caption = mTrajPaused == 1 ? "Go" : "Stop";
-  flightTimer.Enabled = mTrajPaused == 0;
+void TrajectoryForm::StopOrGo() {
+  paused = paused == 0 ? 1 : 0;
+  stopButton.Caption = paused == 1 ? "Go" : "Stop";
+  flightTimer.Enabled = paused == 0;
 }
 
 // The landing leaves the buttons alone: fireButton stays disabled until a scroll bar is moved.
-void TrajectoryForm::Timer1_Timer() {
+void TrajectoryForm::TickFlight() {
   if (flight.y < 0) {
     // The ground is found: the ball stops, but this tick still makes its step, and the read-outs show it.
     scene().Beep();
@@ -181,7 +181,7 @@ void TrajectoryForm::Timer1_Timer() {
   DrawVectors();
 }
 
-void TrajectoryForm::StartEventTimer() {
+void TrajectoryForm::StartPaceTimer() {
   paceTimer.Enabled = true;
   paceTimer.Interval = 1000;
 }
@@ -189,20 +189,20 @@ void TrajectoryForm::StartEventTimer() {
 // A second into the flight its ticks are paced by how far the ball has come; the pace stays for the next
 // flight. A flight that has not ticked yet has no pace, and one that a replay took far away would get an
 // interval that never ticks: both keep the one they have.
-void TrajectoryForm::tmrEvent_Timer() {
+void TrajectoryForm::SetPace() {
   paceTimer.Interval = 0;
   paceTimer.Enabled = false;
   if (flight.x == 0) return;
-  mPaceRatio = flight.vx / flight.x;
-  const std::int32_t interval = CLng(mPaceRatio * 100);
+  paceRatio = flight.vx / flight.x;
+  const std::int32_t interval = CLng(paceRatio * 100);
   if (interval >= 1) flightTimer.Interval = interval;
 }
 
 // Every setting of the flight is taken back from its caption.
 void TrajectoryForm::StartFlight(double dt) {
-  mTrajElevationRad = Val(elevationText.Caption) * 3.1416 / 180;
-  mTrajV0 = Val(velocityText.Caption);
-  Launch(flight, mTrajV0, mTrajElevationRad);
+  elevation = Val(elevationText.Caption) * 3.1416 / 180;
+  initialVelocity = Val(velocityText.Caption);
+  Launch(flight, initialVelocity, elevation);
   flight.dt = dt;
 }
 

@@ -20,14 +20,14 @@ void TrajectoryForm::DrawVectors() {
 // Lines count downwards, so on the way up the angle is the negative one of the path; the head turns with it.
 void TrajectoryForm::DrawVectorsAscending() {
   DrawComponents();
-  mResultantRad = Atn((resultantArrow.Y1 - xArrow.Y1) / (xArrow.X2 - xArrow.X1));
-  DrawArrowHeads({.line12X2 = 1, .line12Y1 = 1, .line13Y1 = 1, .line6Barb = barb});
+  resultantAngle = Atn((resultantArrow.Y1 - xArrow.Y1) / (xArrow.X2 - xArrow.X1));
+  DrawArrowHeads({.upperBarbX2 = 1, .upperBarbY1 = 1, .lowerBarbY1 = 1, .yBarbY = barb});
 }
 
 // On the way down the head keeps the angle that it had near the top of the flight, close to 0.
 void TrajectoryForm::DrawVectorsDescending() {
   DrawComponents();
-  DrawArrowHeads({.line12X2 = -1, .line12Y1 = -0.5, .line13Y1 = 0.5, .line6Barb = -barb});
+  DrawArrowHeads({.upperBarbX2 = -1, .upperBarbY1 = -0.5, .lowerBarbY1 = 0.5, .yBarbY = -barb});
 }
 
 void TrajectoryForm::DrawComponents() {
@@ -38,22 +38,22 @@ void TrajectoryForm::DrawComponents() {
 }
 
 void TrajectoryForm::DrawArrowHeads(const ArrowRule& rule) {
-  mResultantComplement = 3.1416 / 2 - mResultantRad;
+  complement = 3.1416 / 2 - resultantAngle;
   xUpperBarb.Lay({xArrow.X2 + barb, xArrow.Y2, xArrow.X2, xArrow.Y2 - barb});
   xLowerBarb.Lay({xArrow.X2 + barb, xArrow.Y2, xArrow.X2, xArrow.Y2 + barb});
 
   const double x = resultantArrow.X1;
   const double y = resultantArrow.Y1;
-  const double across = barb * Cos(mResultantRad);
-  const double down = barb * Sin(mResultantRad);
-  resultantUpperBarb.Lay({x + across, y + rule.line12Y1 * down, x + rule.line12X2 * down, y - across});
-  resultantLowerBarb.Lay({x + across, y + rule.line13Y1 * down, x - barb * Cos(mResultantComplement),
-                          y + barb * Sin(mResultantComplement)});
+  const double across = barb * Cos(resultantAngle);
+  const double down = barb * Sin(resultantAngle);
+  resultantUpperBarb.Lay({x + across, y + rule.upperBarbY1 * down, x + rule.upperBarbX2 * down, y - across});
+  resultantLowerBarb.Lay(
+      {x + across, y + rule.lowerBarbY1 * down, x - barb * Cos(complement), y + barb * Sin(complement)});
 
   const double p = yArrow.X1;
   const double q = yArrow.Y2;
-  yRightBarb.Lay({p, q, p + barb, q + rule.line6Barb});
-  yLeftBarb.Lay({p - barb, q + rule.line6Barb, p, q});
+  yRightBarb.Lay({p, q, p + barb, q + rule.yBarbY});
+  yLeftBarb.Lay({p - barb, q + rule.yBarbY, p, q});
 
   resultantSymbol.Left = resultantArrow.X1 + 40;
   resultantSymbol.Top = resultantArrow.Y1 - 40;
