@@ -6,16 +6,12 @@ namespace quintara {
 
 AboutForm::AboutForm(Scene& owner) : AboutControls(owner) {
   Bind(Load, &AboutForm::CentreOnScreen);
-  Bind(okButton.Click, &AboutForm::cmdOK_Click);
+  Bind(okButton.Click, &AboutForm::Unload);
 }
 
 void AboutForm::CentreOnScreen() {
   Left = scene().ScreenWidth() / 2 - Width / 2;
   Top = scene().ScreenHeight() / 2 - Height / 2;
-}
-
-void AboutForm::cmdOK_Click() {
-  Unload();
 }
 
 }  // namespace quintara

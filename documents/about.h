@@ -11,7 +11,6 @@ class AboutForm : public AboutControls {
 
  private:
   void CentreOnScreen();
-  void cmdOK_Click();
 };
 
 }  // namespace quintara

@@ -16,7 +16,7 @@ MastersForm::MastersForm(Scene& owner, const MainForm& main) : MastersControls(o
   Bind(Load, &MastersForm::ReadList);
   Bind(nameBox.KeyPress, &MastersForm::EnterName);
   Bind(removeButton.Click, &MastersForm::RemoveNames);
-  Bind(cancelButton.Click, &MastersForm::cmdCancel_Click);
+  Bind(cancelButton.Click, &MastersForm::Unload);
 }
 
 void MastersForm::ReadList() {
@@ -54,10 +54,6 @@ void MastersForm::RemoveNames() {
   list.Clear();
   namePanel.Visible = false;
   SaveList();
-}
-
-void MastersForm::cmdCancel_Click() {
-  Unload();
 }
 
 void MastersForm::SaveList() {

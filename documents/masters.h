@@ -15,7 +15,6 @@ class MastersForm : public MastersControls {
   void ReadList();
   void EnterName(std::int16_t key);
   void RemoveNames();
-  void cmdCancel_Click();
   void SaveList();
 
   MainForm mainForm;

@@ -13,7 +13,7 @@ ProjectileForm::ProjectileForm(Scene& owner) : ProjectileControls(owner) {
   Bind(ball3Button.Click, &ProjectileForm::StartBall3);
   Bind(resetButton.Click, &ProjectileForm::PutBack);
   Bind(stopButton.Click, &ProjectileForm::StopOrGo);
-  Bind(cancelButton.Click, &ProjectileForm::cmdCancel_Click);
+  Bind(cancelButton.Click, &ProjectileForm::Unload);
   Bind(ballTimer.Tick, &ProjectileForm::TickBalls);
 }
 
@@ -24,35 +24,31 @@ void ProjectileForm::SetUp() {
   // A window closed in a run or after one left these as they stood. Its controls are as new, so the next run
   // has to begin at the start too, and Stop has to mean Stop.
   ForgetRun();
-  paused = 0;
+  paused = false;
   LoadScales();
   LayDial();
 }
 
 void ProjectileForm::LoadScales() {
-  for (loopIndex = 1; loopIndex <= 8; ++loopIndex) {
-    fallNumbers.Load(loopIndex);
-    dialNumbers.Load(loopIndex);
-    railTicks.Load(loopIndex);
-    fallTicks.Load(loopIndex);
+  for (std::int16_t k = 1; k <= 8; ++k) {
+    fallNumbers.Load(k);
+    dialNumbers.Load(k);
+    railTicks.Load(k);
+    fallTicks.Load(k);
   }
-  for (loopIndex = 1; loopIndex <= 7; ++loopIndex) railNumbers.Load(loopIndex);
+  for (std::int16_t k = 1; k <= 7; ++k) railNumbers.Load(k);
 }
 
 // Eight positions of 45 degrees, numbered 0 to 7 clockwise from the top. The ninth number stays hidden: its
 // place is the 0.
 void ProjectileForm::LayDial() {
   dial.Visible = true;
-  dialX = 500;
-  dialY = 500;
-  dialBase = 200;
-  dialStep = 141.372 / 180;
   dialHand.Visible = true;
-  for (loopIndex = 1; loopIndex <= 7; ++loopIndex) {
-    Label& number = dialNumbers(loopIndex);
-    number.Left = dialX - number.Width / 2 + (dialBase + 200) * Sin(loopIndex * dialStep);
-    number.Top = dialY - number.Width / 2 - (dialBase + 200) * Cos(loopIndex * dialStep);
-    number.Caption = ToText(loopIndex);
+  for (std::int16_t k = 1; k <= 7; ++k) {
+    Label& number = dialNumbers(k);
+    number.Left = dialX - number.Width / 2 + dialNumberRadius * Sin(k * dialStep);
+    number.Top = dialY - number.Width / 2 - dialNumberRadius * Cos(k * dialStep);
+    number.Caption = ToText(k);
     number.Visible = true;
   }
   // Set by eye, a little to the right of where the circle would have it.
@@ -61,24 +57,28 @@ void ProjectileForm::LayDial() {
   dialNumbers(0).Visible = true;
 }
 
-// Everything else that Load made goes with the form.
+// Everything else that LoadScales made goes with the form.
 void ProjectileForm::UnloadRailNumbers() {
-  for (loopIndex = 1; loopIndex <= 7; ++loopIndex) railNumbers.Unload(loopIndex);
+  for (std::int16_t k = 1; k <= 7; ++k) railNumbers.Unload(k);
 }
 
 void ProjectileForm::StartBall1() {
-  Start(linear);
+  Start(Run::Linear);
 }
 void ProjectileForm::StartBall2() {
-  Start(falling);
+  Start(Run::Fall);
 }
 void ProjectileForm::StartBall3() {
-  Start(combined);
+  Start(Run::Combined);
 }
 
-void ProjectileForm::Start(std::int16_t mode) {
-  run = mode;
+void ProjectileForm::Start(Run started) {
+  run = started;
   for (CommandButton* button : {&ball1Button, &ball2Button, &ball3Button}) button->Enabled = false;
+  StartTimer();
+}
+
+void ProjectileForm::StartTimer() {
   ballTimer.Interval = 50;
   ballTimer.Enabled = true;
 }
@@ -90,22 +90,19 @@ void ProjectileForm::StopTimer() {
 
 // Ball 3 comes last: it takes the places that the others have reached in the same tick.
 void ProjectileForm::TickBalls() {
-  if (run == linear || run == combined) StepBall1();
-  if (run == falling || run == combined) StepBall2();
-  if (run == combined) StepBall3();
+  if (run == Run::Linear || run == Run::Combined) StepBall1();
+  if (run == Run::Fall || run == Run::Combined) StepBall2();
+  if (run == Run::Combined) StepBall3();
 }
 
 // Stops and goes on at any time, also where nothing runs: it only knows the timer and its own last click.
 void ProjectileForm::StopOrGo() {
-  if (paused == 0) {
-    stopButton.Caption = "Go";
+  paused = !paused;
+  stopButton.Caption = paused ? "Go" : "Stop";
+  if (paused) {
     StopTimer();
-    paused = 1;
   } else {
-    stopButton.Caption = "Stop";
-    ballTimer.Interval = 50;
-    ballTimer.Enabled = true;
-    paused = 0;
+    StartTimer();
   }
 }
 
@@ -123,8 +120,8 @@ void ProjectileForm::PutBack() {
 }
 
 void ProjectileForm::ForgetRun() {
-  run = idle;
-  wayRun = 0;
+  run = Run::None;
+  way = 0;
   fallHeight = 0;
   fallVelocity = 0;
 }
@@ -167,14 +164,9 @@ void ProjectileForm::HideVectors() {
 }
 
 void ProjectileForm::HideScales() {
-  for (loopIndex = 0; loopIndex <= 8; ++loopIndex)
-    SetVisible(false, railTicks(loopIndex), fallTicks(loopIndex), fallNumbers(loopIndex));
-  for (loopIndex = 0; loopIndex <= 7; ++loopIndex) railNumbers(loopIndex).Visible = false;
+  for (std::int16_t k = 0; k <= 8; ++k) SetVisible(false, railTicks(k), fallTicks(k), fallNumbers(k));
+  for (std::int16_t k = 0; k <= 7; ++k) railNumbers(k).Visible = false;
   metresText.Visible = false;
-}
-
-void ProjectileForm::cmdCancel_Click() {
-  Unload();
 }
 
 }  // namespace quintara

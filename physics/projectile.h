@@ -14,8 +14,8 @@ class ProjectileForm : public ProjectileControls {
   explicit ProjectileForm(Scene& scene);
 
  private:
-  // What runs, as run says it.
-  static constexpr std::int16_t idle = 0, linear = 1, falling = 2, combined = 3;
+  // What runs: ball 1, ball 2, or all three.
+  enum class Run { None, Linear, Fall, Combined };
 
   // projectile.cpp
   void SetUp();
@@ -25,11 +25,11 @@ class ProjectileForm : public ProjectileControls {
   void StartBall3();
   void PutBack();
   void StopOrGo();
-  void cmdCancel_Click();
   void TickBalls();
   void LoadScales();
   void LayDial();
-  void Start(std::int16_t mode);
+  void Start(Run started);
+  void StartTimer();
   void StopTimer();
   void ForgetRun();
   void PutBallsBack();
@@ -42,6 +42,7 @@ class ProjectileForm : public ProjectileControls {
   void StepBall2();
   void StepBall3();
   void PassRailBand();
+  void RunOn();
   void Fall();
   void DrawFall();
   void PassFallBand();
@@ -61,21 +62,15 @@ class ProjectileForm : public ProjectileControls {
     box.Top = top;
   }
 
-  std::int16_t run = idle;
-  std::int16_t rate = 0;  // twips a second that the steps of balls 1 and 2 each add to wayRun
-  Single wayRun;          // twips run so far; ball 1 stands at wayRun + 500
-  Single fallVelocity;    // m/s, negative downwards
-  Single fallHeight;      // metres, negative downwards, 0 at the start
-  Single shownVelocity;   // what vyText says, a whole multiple of -9.8 m/s
-  Single paused;          // 1: the next click on stopButton lets the timer run
+  static constexpr double dialX = 500, dialY = 500;  // centre of the dial, twips
+  static constexpr double dialNumberRadius = 400, handLength = 280;
+  static constexpr Single dialStep = 141.372 / 180;  // angle between two positions of the hand, radians
 
-  Single dialX, dialY;  // centre of the dial, twips
-  Single dialBase;      // what its radii are counted from
-  Single dialStep;      // angle between two of its positions, radians
-
-  Single angle, complement;  // angle of the resultant arrow below the horizontal, and what is left
-                             // of a right angle
-  std::int16_t loopIndex = 0;
+  Run run = Run::None;
+  Single way;           // twips that the run has gone so far; ball 1 stands at way + 500
+  Single fallVelocity;  // m/s, negative downwards
+  Single fallHeight;    // metres, negative downwards, 0 at the start
+  bool paused = false;  // the next click on the Stop button lets the timer run
 };
 
 }  // namespace quintara

@@ -80,22 +80,21 @@ bool LiesInOneOf(const Spans& spans, double value) {
 
 void ProjectileForm::StepBall1() {
   SetVisible(true, xArrow, xUpperBarb, xLowerBarb, vxText, vxSymbol, panelBall1, panelDigit1);
-  if (run == linear) metresText.Visible = true;
+  if (run == Run::Linear) metresText.Visible = true;
   // The plunger has struck.
   plunger1.X1 = 420;
   plunger1.X2 = 560;
   plunger1.BorderColor = 0x80000002;
 
-  rate = run == combined ? 375 : 750;
-  wayRun = rate * 0.05 + wayRun;
-  Place(ball1, wayRun + 500, 105);
-  Place(digit1, wayRun + 560, 145);
+  RunOn();
+  Place(ball1, way + 500, 105);
+  Place(digit1, way + 560, 145);
 
-  for (loopIndex = 0; loopIndex <= 7; ++loopIndex) {
-    railTicks(loopIndex).X1 = 1025 + 725 * loopIndex;
-    railTicks(loopIndex).X2 = 1025 + 725 * loopIndex;
+  for (std::int16_t k = 0; k < bandCount; ++k) {
+    railTicks(k).X1 = 1025 + 725 * k;
+    railTicks(k).X2 = 1025 + 725 * k;
   }
-  if (run == linear && LiesInOneOf(railBeeps, ball1.Left)) scene().Beep();
+  if (run == Run::Linear && LiesInOneOf(railBeeps, ball1.Left)) scene().Beep();
   PassRailBand();
 }
 
@@ -103,7 +102,7 @@ void ProjectileForm::PassRailBand() {
   for (std::int16_t k = 0; k < bandCount; ++k) {
     const RailBand& band = railBands[k];
     if (!band.place.Holds(ball1.Left)) continue;
-    if (run == linear) SetVisible(true, railTicks(k), railNumbers(k));
+    if (run == Run::Linear) SetVisible(true, railTicks(k), railNumbers(k));
     MoveHand(k + 1);
     railNumbers(k).Left = railTicks(k).X1 - 120;
     railNumbers(k).Caption = band.metres;
@@ -126,16 +125,20 @@ void ProjectileForm::StepBall2() {
   PassFallBand();
 }
 
-// Beside ball 1 the rate is its 375, half of that of a ball alone: both steps add to wayRun, so that a second
+// Comes with each step of ball 1 and of ball 2. Where both run, each brings half of the way, so that a second
 // is as long as ever.
+void ProjectileForm::RunOn() {
+  const double twipsPerSecond = run == Run::Combined ? 375 : 750;
+  way = twipsPerSecond * 0.05 + way;
+}
+
 void ProjectileForm::Fall() {
-  if (run == falling) rate = 750;
-  wayRun = rate * 0.05 + wayRun;
+  RunOn();
   fallVelocity = fallVelocity - 0.49;
   fallHeight = fallVelocity * 0.05 + fallHeight + 0.05 * 0.05 * (0.5 * -9.8);
   // Nothing need run along the rail: the hidden line carries the place there that the beeps go by.
   sightLineDown.Visible = false;
-  sightLineDown.X2 = wayRun + 500;
+  sightLineDown.X2 = way + 500;
 }
 
 void ProjectileForm::DrawFall() {
@@ -146,7 +149,7 @@ void ProjectileForm::DrawFall() {
   trap.Y1 = 960;
 
   sightLineAcross.X1 = ball2.Width + ball2.Left;
-  if (run == falling) {
+  if (run == Run::Fall) {
     sightLineAcross.X2 = 6500;
     metresText.Visible = true;
   }
@@ -165,17 +168,16 @@ void ProjectileForm::PassFallBand() {
   for (std::int16_t k = 0; k < bandCount; ++k) {
     const FallBand& band = fallBands[k];
     if (!band.velocity.Holds(fallVelocity) || !(ball2.Top > band.lowerThan)) continue;
-    if (run == falling) {
-      for (loopIndex = static_cast<std::int16_t>(k - band.marks + 1); loopIndex <= k; ++loopIndex)
-        SetVisible(true, fallTicks(loopIndex), fallNumbers(loopIndex));
+    if (run == Run::Fall) {
+      for (auto marked = static_cast<std::int16_t>(k - band.marks + 1); marked <= k; ++marked)
+        SetVisible(true, fallTicks(marked), fallNumbers(marked));
     }
     fallTicks(k).Y1 = 640 - fallHeight * 12.8;
     fallTicks(k).Y2 = 640 - fallHeight * 12.8;
     fallNumbers(k).Top = 520 - fallHeight * 12.8;
     fallNumbers(k).Caption = band.metres;
     MoveHand(k + 1);
-    shownVelocity = band.shownVelocity;
-    vyText.Caption = "= " + ToText(shownVelocity) + " m/s";
+    vyText.Caption = "= " + ToText(Single(band.shownVelocity)) + " m/s";
     if (band.effect == Effect::OffersReset) OfferReset();
     if (band.effect == Effect::EndsRun) StopTimer();
     return;
@@ -216,16 +218,16 @@ void ProjectileForm::LaySightLineDown() {
 void ProjectileForm::LayResultant() {
   resultantArrow.X1 = xArrow.X2;
   resultantArrow.Y1 = FallArrow() + yArrow.Y2;
-  angle = Atn((resultantArrow.Y1 - xArrow.Y1) / (xArrow.X2 - xArrow.X1));
-  complement = 3.1416 / 2 - angle;
+  const Single angle = Atn((resultantArrow.Y1 - xArrow.Y1) / (xArrow.X2 - xArrow.X1));
+  const Single complement = 3.1416 / 2 - angle;
 
   xUpperBarb.Lay({xArrow.X2 + 60, xArrow.Y2, xArrow.X2, xArrow.Y2 - 60});
   xLowerBarb.Lay({xArrow.X2 + 60, xArrow.Y2, xArrow.X2, xArrow.Y2 + 60});
 
-  const double x = resultantArrow.X1, y = resultantArrow.Y1, a = angle, b = complement;
-  const double tipX = x + 60 * Cos(a), tipY = y + 60 * Sin(a);
-  resultantUpperBarb.Lay({tipX, tipY, x + 60 * Sin(a), y - 60 * Cos(a)});
-  resultantLowerBarb.Lay({tipX, tipY, x - 60 * Cos(b), y + 60 * Sin(b)});
+  const double x = resultantArrow.X1, y = resultantArrow.Y1;
+  const double tipX = x + 60 * Cos(angle), tipY = y + 60 * Sin(angle);
+  resultantUpperBarb.Lay({tipX, tipY, x + 60 * Sin(angle), y - 60 * Cos(angle)});
+  resultantLowerBarb.Lay({tipX, tipY, x - 60 * Cos(complement), y + 60 * Sin(complement)});
 
   guideDown.Y2 = resultantUpperBarb.Y1;
   guideAcross.Y1 = resultantUpperBarb.Y1;
@@ -234,8 +236,8 @@ void ProjectileForm::LayResultant() {
 
 // Position 8 is the top again.
 void ProjectileForm::MoveHand(int position) {
-  dialHand.X2 = dialX + (dialBase + 80) * Sin(position * dialStep);
-  dialHand.Y2 = dialY - (dialBase + 80) * Cos(position * dialStep);
+  dialHand.X2 = dialX + handLength * Sin(position * dialStep);
+  dialHand.Y2 = dialY - handLength * Cos(position * dialStep);
 }
 
 void ProjectileForm::OfferReset() {

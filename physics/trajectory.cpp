@@ -12,7 +12,7 @@ TrajectoryForm::TrajectoryForm(Scene& owner) : TrajectoryControls(owner) {
   Bind(distanceSlider.Scroll, &TrajectoryForm::TakeBallToDistance);
   Bind(fireButton.Click, &TrajectoryForm::Fire);
   Bind(stopButton.Click, &TrajectoryForm::StopOrGo);
-  Bind(cancelButton.Click, &TrajectoryForm::cmdCancel_Click);
+  Bind(cancelButton.Click, &TrajectoryForm::Unload);
   Bind(flightTimer.Tick, &TrajectoryForm::TickFlight);
   Bind(paceTimer.Tick, &TrajectoryForm::SetPace);
 }
@@ -28,35 +28,34 @@ void TrajectoryForm::SetUp() {
 
 // Both axes in kilometres. These are twips: the chart's own units come with the first flight.
 void TrajectoryForm::LayAxes() {
-  for (loopIndex = 1; loopIndex <= 10; ++loopIndex) {
-    heightTicks.Load(loopIndex);
-    heightTicks(loopIndex).Visible = true;
-    heightTicks(loopIndex).Y1 = 5160 - loopIndex * 440;
-    heightTicks(loopIndex).Y2 = 5160 - loopIndex * 440;
+  for (std::int16_t k = 1; k <= 10; ++k) {
+    heightTicks.Load(k);
+    heightTicks(k).Visible = true;
+    heightTicks(k).Y1 = 5160 - k * 440;
+    heightTicks(k).Y2 = 5160 - k * 440;
   }
-  for (loopIndex = 1; loopIndex <= 20; ++loopIndex) {
-    rangeTicks.Load(loopIndex);
-    rangeTicks(loopIndex).Visible = true;
-    rangeTicks(loopIndex).X1 = 1200 + loopIndex * 373;
-    rangeTicks(loopIndex).X2 = 1200 + loopIndex * 373;
+  for (std::int16_t k = 1; k <= 20; ++k) {
+    rangeTicks.Load(k);
+    rangeTicks(k).Visible = true;
+    rangeTicks(k).X1 = 1200 + k * 373;
+    rangeTicks(k).X2 = 1200 + k * 373;
   }
-  for (loopIndex = 1; loopIndex <= 5; ++loopIndex) {
-    heightNumbers.Load(loopIndex);
-    heightNumbers(loopIndex).Visible = true;
-    heightNumbers(loopIndex).Top = 5030 - loopIndex * 870;
-    heightNumbers(loopIndex).Caption = ToText(loopIndex);
+  for (std::int16_t k = 1; k <= 5; ++k) {
+    heightNumbers.Load(k);
+    heightNumbers(k).Visible = true;
+    heightNumbers(k).Top = 5030 - k * 870;
+    heightNumbers(k).Caption = ToText(k);
   }
-  for (loopIndex = 1; loopIndex <= 10; ++loopIndex) {
-    rangeNumbers.Load(loopIndex);
-    rangeNumbers(loopIndex).Visible = true;
-    rangeNumbers(loopIndex).Left = 1110 + loopIndex * 746;
-    rangeNumbers(loopIndex).Caption = ToText(loopIndex);
+  for (std::int16_t k = 1; k <= 10; ++k) {
+    rangeNumbers.Load(k);
+    rangeNumbers(k).Visible = true;
+    rangeNumbers(k).Left = 1110 + k * 746;
+    rangeNumbers(k).Caption = ToText(k);
   }
 }
 
 void TrajectoryForm::TakeElevation() {
-  elevationPosition = elevationBar.Value.Get();
-  elevationText.Caption = ToText(Single(370 - elevationPosition));
+  elevationText.Caption = ToText(Single(370 - elevationBar.Value));
 }
 
 void TrajectoryForm::TakeVelocity() {
@@ -65,10 +64,6 @@ void TrajectoryForm::TakeVelocity() {
 
 void TrajectoryForm::TakeDrag() {
   dragText.Caption = ToText(Single(dragBar.Value * 0.01));
-}
-
-void TrajectoryForm::cmdCancel_Click() {
-  Unload();
 }
 
 }  // namespace quintara

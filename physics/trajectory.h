@@ -21,7 +21,6 @@ class TrajectoryForm : public TrajectoryControls {
   void TakeElevation();
   void TakeVelocity();
   void TakeDrag();
-  void cmdCancel_Click();
 
   // trajectory_flight.cpp
   void ReplayElevation();
@@ -50,9 +49,9 @@ class TrajectoryForm : public TrajectoryControls {
 
   // trajectory_vectors.cpp
   struct ArrowRule {
-    double upperBarbX2, upperBarbY1,
-        lowerBarbY1;  // how many times 10 x Sin(resultantAngle) each is off the tip
-    double yBarbY;    // how far the barbs of the upright arrow end below its tip
+    // How often each is off the tip by a barb's length times the sine of the resultant's angle.
+    double upperBarbX2, upperBarbY1, lowerBarbY1;
+    double yBarbsBelow;  // how far the barbs of the upright arrow end below its tip
   };
   void DrawVectors();
   void DrawVectorsAscending();
@@ -61,15 +60,11 @@ class TrajectoryForm : public TrajectoryControls {
   void DrawArrowHeads(const ArrowRule& rule);
 
   Flight flight;
-  Single initialVelocity;      // initial velocity, m/s
-  Single elevation;            // elevation in radians
-  Single elevationPosition;    // where elevationBar stands
-  Single resultantAngle;       // angle of the resultant vector
-  Single complement;           // what it lacks of a right angle
-  Single paceRatio;            // of flight.vx to flight.x, one second after Fire
-  std::int16_t stepCount = 0;  // counts the steps of a replay
-  std::int16_t loopIndex = 0;  // counts the marks of the axes
-  std::int16_t paused = 0;     // 1: stopButton holds the flight
+  Single initialVelocity;  // of the flight that was begun last, m/s
+  // Of the resultant vector, radians. It is worked out on a way up only: until there is one it is 0, and a
+  // way down, also of a later flight, draws its arrow with that of the last way up.
+  Single resultantAngle;
+  bool paused = false;  // the Stop button holds the flight; outlives the window, see SetUp
 };
 
 }  // namespace quintara

@@ -38,7 +38,6 @@ void TrajectoryForm::Replay(double floor) {
   vectorPanel.Visible = false;
   distanceSlider.Value = 0;
   StartFlight(fineStep);
-  stepCount = 1;
   SetUpChart();
   Cls();
   PlotFlight(floor);
@@ -57,7 +56,7 @@ void TrajectoryForm::PlotFlight(double floor) {
   Flight shell = flight;
   const double k = Val(dragText.Caption);
   const std::int16_t end = EndOfSteps(initialVelocity);
-  for (; stepCount < end; ++stepCount) {
+  for (std::int16_t step = 1; step < end; ++step) {
     BallisticStep(shell, k);
     if (shell.y > floor) {
       PlotPoint(shell.x, shell.y);
@@ -83,7 +82,7 @@ void TrajectoryForm::ShowReplayCaptions() {
   vyText.Visible = false;
   fireButton.Enabled = true;
   stopButton.Enabled = false;
-  paused = 0;
+  paused = false;
   stopButton.Caption = "Stop";
 }
 
@@ -94,7 +93,6 @@ void TrajectoryForm::TakeBallToDistance() {
   TakeElevation();
   TakeVelocity();
   StartFlight(fineStep);
-  stepCount = 1;
   SetUpChart();
   Cls();
   FlyToSlider();
@@ -111,8 +109,7 @@ void TrajectoryForm::TakeBallToDistance() {
 // The step that passes the slider counts along the ground only: height and time are those of the one before.
 void TrajectoryForm::FlyToSlider() {
   const std::int16_t end = EndOfSteps(initialVelocity);
-  while (stepCount < end) {
-    ++stepCount;
+  for (std::int16_t step = 1; step < end; ++step) {
     StepAlongGround(flight, Val(dragText.Caption));
     if (flight.x > distanceSlider.Value * metresPerSliderPosition) return;
     StepUpwards(flight);
@@ -156,12 +153,12 @@ void TrajectoryForm::Fire() {
 }
 
 void TrajectoryForm::StopOrGo() {
-  paused = paused == 0 ? 1 : 0;
-  stopButton.Caption = paused == 1 ? "Go" : "Stop";
-  flightTimer.Enabled = paused == 0;
+  paused = !paused;
+  stopButton.Caption = paused ? "Go" : "Stop";
+  flightTimer.Enabled = !paused;
 }
 
-// The landing leaves the buttons alone: fireButton stays disabled until a scroll bar is moved.
+// The landing leaves the buttons alone: Fire stays disabled until a scroll bar is moved.
 void TrajectoryForm::TickFlight() {
   if (flight.y < 0) {
     // The ground is found: the ball stops, but this tick still makes its step, and the read-outs show it.
@@ -193,14 +190,14 @@ void TrajectoryForm::SetPace() {
   paceTimer.Interval = 0;
   paceTimer.Enabled = false;
   if (flight.x == 0) return;
-  paceRatio = flight.vx / flight.x;
-  const std::int32_t interval = CLng(paceRatio * 100);
+  const Single pace = flight.vx / flight.x;
+  const std::int32_t interval = CLng(pace * 100);
   if (interval >= 1) flightTimer.Interval = interval;
 }
 
 // Every setting of the flight is taken back from its caption.
 void TrajectoryForm::StartFlight(double dt) {
-  elevation = Val(elevationText.Caption) * 3.1416 / 180;
+  const Single elevation = Val(elevationText.Caption) * 3.1416 / 180;
   initialVelocity = Val(velocityText.Caption);
   Launch(flight, initialVelocity, elevation);
   flight.dt = dt;

@@ -2,8 +2,8 @@
 #include "numbers/trigonometry.h"
 #include "physics/trajectory.h"
 
-// The panel of velocity vectors, in its own units: two to each m/s. The projectile is where xArrow (along the
-// ground) and yArrow (upwards) begin; resultantArrow is their resultant, and its X1, Y1 is the tip.
+// The panel of velocity vectors, in its own units: two to each m/s. The projectile is where the arrows along
+// the ground and upwards begin; the tip of their resultant is its X1, Y1.
 
 namespace quintara {
 namespace {
@@ -21,13 +21,13 @@ void TrajectoryForm::DrawVectors() {
 void TrajectoryForm::DrawVectorsAscending() {
   DrawComponents();
   resultantAngle = Atn((resultantArrow.Y1 - xArrow.Y1) / (xArrow.X2 - xArrow.X1));
-  DrawArrowHeads({.upperBarbX2 = 1, .upperBarbY1 = 1, .lowerBarbY1 = 1, .yBarbY = barb});
+  DrawArrowHeads({.upperBarbX2 = 1, .upperBarbY1 = 1, .lowerBarbY1 = 1, .yBarbsBelow = barb});
 }
 
-// On the way down the head keeps the angle that it had near the top of the flight, close to 0.
+// On the way down the head keeps the angle of the last way up, which is close to 0 near the top of a flight.
 void TrajectoryForm::DrawVectorsDescending() {
   DrawComponents();
-  DrawArrowHeads({.upperBarbX2 = -1, .upperBarbY1 = -0.5, .lowerBarbY1 = 0.5, .yBarbY = -barb});
+  DrawArrowHeads({.upperBarbX2 = -1, .upperBarbY1 = -0.5, .lowerBarbY1 = 0.5, .yBarbsBelow = -barb});
 }
 
 void TrajectoryForm::DrawComponents() {
@@ -38,22 +38,21 @@ void TrajectoryForm::DrawComponents() {
 }
 
 void TrajectoryForm::DrawArrowHeads(const ArrowRule& rule) {
-  complement = 3.1416 / 2 - resultantAngle;
+  const Single complement = 3.1416 / 2 - resultantAngle;
   xUpperBarb.Lay({xArrow.X2 + barb, xArrow.Y2, xArrow.X2, xArrow.Y2 - barb});
   xLowerBarb.Lay({xArrow.X2 + barb, xArrow.Y2, xArrow.X2, xArrow.Y2 + barb});
 
-  const double x = resultantArrow.X1;
-  const double y = resultantArrow.Y1;
+  const double tipX = resultantArrow.X1;
+  const double tipY = resultantArrow.Y1;
   const double across = barb * Cos(resultantAngle);
   const double down = barb * Sin(resultantAngle);
-  resultantUpperBarb.Lay({x + across, y + rule.upperBarbY1 * down, x + rule.upperBarbX2 * down, y - across});
-  resultantLowerBarb.Lay(
-      {x + across, y + rule.lowerBarbY1 * down, x - barb * Cos(complement), y + barb * Sin(complement)});
+  resultantUpperBarb.Lay(
+      {tipX + across, tipY + rule.upperBarbY1 * down, tipX + rule.upperBarbX2 * down, tipY - across});
+  resultantLowerBarb.Lay({tipX + across, tipY + rule.lowerBarbY1 * down, tipX - barb * Cos(complement),
+                          tipY + barb * Sin(complement)});
 
-  const double p = yArrow.X1;
-  const double q = yArrow.Y2;
-  yRightBarb.Lay({p, q, p + barb, q + rule.yBarbY});
-  yLeftBarb.Lay({p - barb, q + rule.yBarbY, p, q});
+  yRightBarb.Lay({yArrow.X1, yArrow.Y2, yArrow.X1 + barb, yArrow.Y2 + rule.yBarbsBelow});
+  yLeftBarb.Lay({yArrow.X1 - barb, yArrow.Y2 + rule.yBarbsBelow, yArrow.X1, yArrow.Y2});
 
   resultantSymbol.Left = resultantArrow.X1 + 40;
   resultantSymbol.Top = resultantArrow.Y1 - 40;

@@ -28,8 +28,8 @@ TEST(AnalysisTest, TheProjectileWindowShowsItsNumbers) {
   // What a label says while the hand stands on each number, by that number.
   using Readings = std::map<int, std::string>;
   Readings across, fall, velocity;
-  const auto run = [&](CommandButton& ball, ControlArray<Label>& marks, Readings& metres) {
-    for (gun.Click(ball); bench.ballTimer.Enabled; gun.Advance(50)) {
+  const auto run = [&](CommandButton& button, ControlArray<Label>& marks, Readings& metres) {
+    for (gun.Click(button); bench.ballTimer.Enabled; gun.Advance(50)) {
       const double turn = std::atan2(bench.dialHand.X2 - 500, 500 - bench.dialHand.Y2) / std::numbers::pi * 4;
       const auto hand = static_cast<std::int16_t>(std::lround(turn + 8) % 8);
       if (hand == 0) continue;

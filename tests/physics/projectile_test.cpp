@@ -29,7 +29,14 @@ class ProjectileTest : public DemonstrationTest<ProjectileForm> {
     ExpectEnds(form.dialHand, {500, 500, 500 + length * std::sin(angle), 500 - length * std::cos(angle)});
   }
 
-  std::vector<CommandButton*> balls{&form.ball1Button, &form.ball2Button, &form.ball3Button};
+  static std::vector<const Box*> Moved(const ProjectileForm& bench) {
+    return {&bench.ball1, &bench.digit1, &bench.ball2, &bench.digit2, &bench.ball3, &bench.digit3};
+  }
+  static std::vector<const Line*> Laid(const ProjectileForm& bench) {
+    return {&bench.trap, &bench.plunger1, &bench.plunger3, &bench.dialHand};
+  }
+
+  std::vector<CommandButton*> buttons{&form.ball1Button, &form.ball2Button, &form.ball3Button};
 };
 
 const std::vector<int> ticksOfRail = {9, 29, 48, 67, 87, 106, 125, 146, 146};
@@ -37,19 +44,19 @@ const std::vector<int> ticksOfFall = {9, 29, 48, 67, 87, 106, 125, 142, 145};
 
 TEST_F(ProjectileTest, BeepsAndEndsOfTheThreeRuns) {
   const struct {
-    CommandButton& ball;
+    CommandButton& button;
     std::vector<int> ticks;
     double across, down;  // where balls 1 and 2 end
   } cases[] = {{form.ball1Button, ticksOfRail, 5975, 480},
                {form.ball2Button, ticksOfFall, 480, 3822.195},
                {form.ball3Button, ticksOfFall, 5918.75, 3822.195}};
-  for (const auto& [ball, ticks, across, down] : cases) {
-    Click(ball);
-    for (CommandButton* button : balls) EXPECT_EQ(UserClicks(*button), InputResult::NoTarget);
-    EXPECT_EQ(ToTheEnd(), ticks) << ball.name();
-    ExpectPlace(form.ball1, across, &ball == &form.ball2Button ? 120 : 105);
+  for (const auto& [button, ticks, across, down] : cases) {
+    Click(button);
+    for (CommandButton* each : buttons) EXPECT_EQ(UserClicks(*each), InputResult::NoTarget);
+    EXPECT_EQ(ToTheEnd(), ticks) << button.name();
+    ExpectPlace(form.ball1, across, &button == &form.ball2Button ? 120 : 105);
     ExpectPlace(form.ball2, 0, down);
-    for (CommandButton* button : balls) EXPECT_FALSE(button->Enabled) << "only Reset leads on";
+    for (CommandButton* each : buttons) EXPECT_FALSE(each->Enabled) << "only Reset leads on";
     Click(form.resetButton);
   }
 }
@@ -174,9 +181,9 @@ TEST_F(ProjectileTest, StopKnowsOnlyItsOwnLastClick) {
 TEST_F(ProjectileTest, ResetMakesTheBenchAsNew) {
   ProjectileForm fresh{scene};
   fresh.Show();
-  for (CommandButton* ball : balls) {
-    SCOPED_TRACE(ball->name());
-    Click(*ball);
+  for (CommandButton* button : buttons) {
+    SCOPED_TRACE(button->name());
+    Click(*button);
     ToTheEnd();
     Click(form.resetButton);
     ASSERT_EQ(form.objects().size(), fresh.objects().size());
@@ -185,13 +192,10 @@ TEST_F(ProjectileTest, ResetMakesTheBenchAsNew) {
       EXPECT_EQ(object.IsVisible(), fresh.objects()[i]->IsVisible()) << FullName(object);
       EXPECT_EQ(object.IsEnabled(), fresh.objects()[i]->IsEnabled()) << FullName(object);
     }
-    for (const char* name : {"Shape1", "Label1", "Shape2", "Label2", "Shape3", "Label3"}) {
-      const auto& start = static_cast<const Box&>(*fresh.Find(name));
-      ExpectPlace(static_cast<const Box&>(*form.Find(name)), start.Left, start.Top);
-    }
-    for (const char* name : {"Line4", "Line5", "Line6", "Line8"})
-      ExpectEnds(static_cast<const Line&>(*form.Find(name)),
-                 static_cast<const Line&>(*fresh.Find(name)).Surface());
+    const auto movedBack = Moved(form), start = Moved(fresh);
+    for (std::size_t i = 0; i < start.size(); ++i) ExpectPlace(*movedBack[i], start[i]->Left, start[i]->Top);
+    const auto laidBack = Laid(form), laidFresh = Laid(fresh);
+    for (std::size_t i = 0; i < laidFresh.size(); ++i) ExpectEnds(*laidBack[i], laidFresh[i]->Surface());
     ExpectEnds(form.sightLineAcross, {0, 607.5, 480, 607.5});
     ExpectEnds(form.sightLineDown, {607.5, 375, 607.5, 480});
     EXPECT_TRUE(form.resultantArrow.Y1 == 780 && form.yArrow.Y1 == 780 && form.dots().empty());
