@@ -4,9 +4,9 @@
 
 namespace quintara {
 
-AnalysisForm::AnalysisForm(Scene& owner, const MainForm& main, ProjectileForm& benchForm,
-                           TrajectoryForm& simulatorForm)
-    : AnalysisControls(owner), self(*this), mainForm(main), bench(benchForm), simulator(simulatorForm) {
+AnalysisForm::AnalysisForm(Scene& owner, const MainForm& mainForm, ProjectileForm& bench,
+                           TrajectoryForm& simulator)
+    : AnalysisControls(owner), self_(*this), mainForm_(mainForm), bench_(bench), simulator_(simulator) {
   Bind(documentBox.SelChange, &AnalysisForm::OfferCopy);
   Bind(copyButton.Click, &AnalysisForm::CopySelection);
   Bind(benchButton.Click, &AnalysisForm::OpenBench);
@@ -26,22 +26,22 @@ void AnalysisForm::Open(HelpTopic topic) {
   cancelButton.Top = document.cancelTop;
   copyButton.Left = document.copyLeft;
   copyButton.Top = document.copyTop;
-  mainForm.valleyName.Visible = document.placeNames;
-  mainForm.peakName.Visible = document.placeNames;
+  mainForm_.valleyName.Visible = document.placeNames;
+  mainForm_.peakName.Visible = document.placeNames;
   simulatorButton.Visible = document.demonstrations;
   benchButton.Visible = document.demonstrations;
-  ReadDocumentInto(documentBox, mainForm.shared.programFolder, document.file);
+  ReadDocumentInto(documentBox, mainForm_.shared.programFolder, document.file);
   Show();
 }
 
 void AnalysisForm::TakePosition(DocumentPosition position) {
   if (position == DocumentPosition::Beside) {
-    Left = mainForm.form.Left + 80;
-    Top = mainForm.form.Top + 340;
+    Left = mainForm_.form.Left + 80;
+    Top = mainForm_.form.Top + 340;
     return;
   }
-  Left = mainForm.form.Width / 2 - Width / 2;
-  Top = mainForm.form.Height / 2 - (position == DocumentPosition::Centred ? Height / 2 : 0);
+  Left = mainForm_.form.Width / 2 - Width / 2;
+  Top = mainForm_.form.Height / 2 - (position == DocumentPosition::Centred ? Height / 2 : 0);
 }
 
 // Nothing switches the button off again while the window stays open.
@@ -54,28 +54,28 @@ void AnalysisForm::CopySelection() {
 }
 
 void AnalysisForm::OpenBench() {
-  bench->Show();
-  PlaceBesideMainForm(*bench);
+  bench_->Show();
+  PlaceBesideMainForm(*bench_);
 }
 
 void AnalysisForm::OpenSimulator() {
-  simulator->Show();
-  PlaceBesideMainForm(*simulator);
+  simulator_->Show();
+  PlaceBesideMainForm(*simulator_);
 }
 
 void AnalysisForm::PlaceBesideMainForm(Form& demonstration) {
-  demonstration.Left = mainForm.form.Left + 6200;
-  demonstration.Top = mainForm.form.Top + 1500;
+  demonstration.Left = mainForm_.form.Left + 6200;
+  demonstration.Top = mainForm_.form.Top + 1500;
 }
 
 void AnalysisForm::CloseWithDemonstrations() {
-  self.Unload();
-  mainForm.valleyName.Visible = false;
-  mainForm.peakName.Visible = false;
-  simulator.Unload();
-  bench.Unload();
+  self_.Unload();
+  mainForm_.valleyName.Visible = false;
+  mainForm_.peakName.Visible = false;
+  simulator_.Unload();
+  bench_.Unload();
   // This touch loads the form again, hidden; it is meant so that the next opening starts with the button off.
-  self->copyButton.Enabled = false;
+  self_->copyButton.Enabled = false;
 }
 
 void ReadDocumentInto(RichTextBox& box, const std::string& folder, std::string_view name) {

@@ -27,10 +27,10 @@ class AnalysisForm : public AnalysisControls {
   void TakePosition(DocumentPosition position);
   void PlaceBesideMainForm(Form& demonstration);
 
-  FormHandle<AnalysisForm> self;  // this form, for what goes on after its own unloading
-  MainForm mainForm;
-  FormHandle<ProjectileForm> bench;
-  FormHandle<TrajectoryForm> simulator;
+  FormHandle<AnalysisForm> self_;  // this form, for what goes on after its own unloading
+  MainForm mainForm_;
+  FormHandle<ProjectileForm> bench_;
+  FormHandle<TrajectoryForm> simulator_;
 };
 
 // Reads a document of the program's folder into a box. Where it can't be read, the box says so and names the

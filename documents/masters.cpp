@@ -12,7 +12,8 @@ constexpr double grandMasterPoints = 45;
 
 }  // namespace
 
-MastersForm::MastersForm(Scene& owner, const MainForm& main) : MastersControls(owner), mainForm(main) {
+MastersForm::MastersForm(Scene& owner, const MainForm& mainForm)
+    : MastersControls(owner), mainForm_(mainForm) {
   Bind(Load, &MastersForm::ReadList);
   Bind(nameBox.KeyPress, &MastersForm::EnterName);
   Bind(removeButton.Click, &MastersForm::RemoveNames);
@@ -20,10 +21,10 @@ MastersForm::MastersForm(Scene& owner, const MainForm& main) : MastersControls(o
 }
 
 void MastersForm::ReadList() {
-  const std::string path = mainForm.shared.programFolder + "Masters.txt";
+  const std::string path = mainForm_.shared.programFolder + "Masters.txt";
   const auto lines = scene().files().ReadLines(path);
-  fileIsUnread = !lines && scene().files().Exists(path);
-  if (fileIsUnread) {
+  fileIsUnread_ = !lines && scene().files().Exists(path);
+  if (fileIsUnread_) {
     scene().TellFault(
         "The list of masters in the file Masters.txt could not be read. The file is left as it is.");
   }
@@ -33,7 +34,7 @@ void MastersForm::ReadList() {
 
 void MastersForm::EnterName(std::int16_t key) {
   if (key != enter) return;
-  const double points = Val(mainForm.score.Caption);
+  const double points = Val(mainForm_.score.Caption);
   if (points >= masterPoints && points < grandMasterPoints) {
     list.AddItem(nameBox.Text.Get() + " - Master of Quintara");
   } else if (points >= grandMasterPoints) {
@@ -41,7 +42,7 @@ void MastersForm::EnterName(std::int16_t key) {
   }
   namePanel.Visible = false;
   SaveList();
-  mainForm.shared.PlayUnlessSoundIsOff(scene(), "gong.wav");
+  mainForm_.shared.PlayUnlessSoundIsOff(scene(), "gong.wav");
 }
 
 void MastersForm::RemoveNames() {
@@ -57,8 +58,8 @@ void MastersForm::RemoveNames() {
 }
 
 void MastersForm::SaveList() {
-  if (!fileIsUnread &&
-      scene().files().WriteLines(mainForm.shared.programFolder + "Masters.txt", list.items()))
+  if (!fileIsUnread_ &&
+      scene().files().WriteLines(mainForm_.shared.programFolder + "Masters.txt", list.items()))
     return;
   scene().TellFault(
       "The list of masters could not be saved in the file Masters.txt. The file was left as it is; the list "

@@ -17,9 +17,9 @@ class MastersForm : public MastersControls {
   void RemoveNames();
   void SaveList();
 
-  MainForm mainForm;
+  MainForm mainForm_;
   // Something lies in the file's place that could not be read, and must not be lost.
-  bool fileIsUnread = false;
+  bool fileIsUnread_ = false;
 };
 
 }  // namespace quintara

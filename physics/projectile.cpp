@@ -24,7 +24,7 @@ void ProjectileForm::SetUp() {
   // A window closed in a run or after one left these as they stood. Its controls are as new, so the next run
   // has to begin at the start too, and Stop has to mean Stop.
   ForgetRun();
-  paused = false;
+  paused_ = false;
   LoadScales();
   LayDial();
 }
@@ -73,7 +73,7 @@ void ProjectileForm::StartBall3() {
 }
 
 void ProjectileForm::Start(Run started) {
-  run = started;
+  run_ = started;
   for (CommandButton* button : {&ball1Button, &ball2Button, &ball3Button}) button->Enabled = false;
   StartTimer();
 }
@@ -90,16 +90,16 @@ void ProjectileForm::StopTimer() {
 
 // Ball 3 comes last: it takes the places that the others have reached in the same tick.
 void ProjectileForm::TickBalls() {
-  if (run == Run::Linear || run == Run::Combined) StepBall1();
-  if (run == Run::Fall || run == Run::Combined) StepBall2();
-  if (run == Run::Combined) StepBall3();
+  if (run_ == Run::Linear || run_ == Run::Combined) StepBall1();
+  if (run_ == Run::Fall || run_ == Run::Combined) StepBall2();
+  if (run_ == Run::Combined) StepBall3();
 }
 
 // Stops and goes on at any time, also where nothing runs: it only knows the timer and its own last click.
 void ProjectileForm::StopOrGo() {
-  paused = !paused;
-  stopButton.Caption = paused ? "Go" : "Stop";
-  if (paused) {
+  paused_ = !paused_;
+  stopButton.Caption = paused_ ? "Go" : "Stop";
+  if (paused_) {
     StopTimer();
   } else {
     StartTimer();
@@ -120,10 +120,10 @@ void ProjectileForm::PutBack() {
 }
 
 void ProjectileForm::ForgetRun() {
-  run = Run::None;
-  way = 0;
-  fallHeight = 0;
-  fallVelocity = 0;
+  run_ = Run::None;
+  way_ = 0;
+  fallHeight_ = 0;
+  fallVelocity_ = 0;
 }
 
 void ProjectileForm::PutBallsBack() {

@@ -66,11 +66,11 @@ class ProjectileForm : public ProjectileControls {
   static constexpr double dialNumberRadius = 400, handLength = 280;
   static constexpr Single dialStep = 141.372 / 180;  // angle between two positions of the hand, radians
 
-  Run run = Run::None;
-  Single way;           // twips that the run has gone so far; ball 1 stands at way + 500
-  Single fallVelocity;  // m/s, negative downwards
-  Single fallHeight;    // metres, negative downwards, 0 at the start
-  bool paused = false;  // the next click on the Stop button lets the timer run
+  Run run_ = Run::None;
+  Single way_;           // twips that the run has gone so far; ball 1 stands 500 further
+  Single fallVelocity_;  // m/s, negative downwards
+  Single fallHeight_;    // metres, negative downwards, 0 at the start
+  bool paused_ = false;  // the next click on the Stop button lets the timer run
 };
 
 }  // namespace quintara

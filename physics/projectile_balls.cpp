@@ -80,21 +80,21 @@ bool LiesInOneOf(const Spans& spans, double value) {
 
 void ProjectileForm::StepBall1() {
   SetVisible(true, xArrow, xUpperBarb, xLowerBarb, vxText, vxSymbol, panelBall1, panelDigit1);
-  if (run == Run::Linear) metresText.Visible = true;
+  if (run_ == Run::Linear) metresText.Visible = true;
   // The plunger has struck.
   plunger1.X1 = 420;
   plunger1.X2 = 560;
   plunger1.BorderColor = 0x80000002;
 
   RunOn();
-  Place(ball1, way + 500, 105);
-  Place(digit1, way + 560, 145);
+  Place(ball1, way_ + 500, 105);
+  Place(digit1, way_ + 560, 145);
 
   for (std::int16_t k = 0; k < bandCount; ++k) {
     railTicks(k).X1 = 1025 + 725 * k;
     railTicks(k).X2 = 1025 + 725 * k;
   }
-  if (run == Run::Linear && LiesInOneOf(railBeeps, ball1.Left)) scene().Beep();
+  if (run_ == Run::Linear && LiesInOneOf(railBeeps, ball1.Left)) scene().Beep();
   PassRailBand();
 }
 
@@ -102,7 +102,7 @@ void ProjectileForm::PassRailBand() {
   for (std::int16_t k = 0; k < bandCount; ++k) {
     const RailBand& band = railBands[k];
     if (!band.place.Holds(ball1.Left)) continue;
-    if (run == Run::Linear) SetVisible(true, railTicks(k), railNumbers(k));
+    if (run_ == Run::Linear) SetVisible(true, railTicks(k), railNumbers(k));
     MoveHand(k + 1);
     railNumbers(k).Left = railTicks(k).X1 - 120;
     railNumbers(k).Caption = band.metres;
@@ -128,28 +128,28 @@ void ProjectileForm::StepBall2() {
 // Comes with each step of ball 1 and of ball 2. Where both run, each brings half of the way, so that a second
 // is as long as ever.
 void ProjectileForm::RunOn() {
-  const double twipsPerSecond = run == Run::Combined ? 375 : 750;
-  way = twipsPerSecond * 0.05 + way;
+  const double twipsPerSecond = run_ == Run::Combined ? 375 : 750;
+  way_ = twipsPerSecond * 0.05 + way_;
 }
 
 void ProjectileForm::Fall() {
   RunOn();
-  fallVelocity = fallVelocity - 0.49;
-  fallHeight = fallVelocity * 0.05 + fallHeight + 0.05 * 0.05 * (0.5 * -9.8);
+  fallVelocity_ = fallVelocity_ - 0.49;
+  fallHeight_ = fallVelocity_ * 0.05 + fallHeight_ + 0.05 * 0.05 * (0.5 * -9.8);
   // Nothing need run along the rail: the hidden line carries the place there that the beeps go by.
   sightLineDown.Visible = false;
-  sightLineDown.X2 = way + 500;
+  sightLineDown.X2 = way_ + 500;
 }
 
 void ProjectileForm::DrawFall() {
-  Place(ball2, 0, 480 - fallHeight * 12.8);
-  Place(digit2, 60, 520 - fallHeight * 12.8);
+  Place(ball2, 0, 480 - fallHeight_ * 12.8);
+  Place(digit2, 60, 520 - fallHeight_ * 12.8);
   // The trap hangs open.
   trap.X1 = 300;
   trap.Y1 = 960;
 
   sightLineAcross.X1 = ball2.Width + ball2.Left;
-  if (run == Run::Fall) {
+  if (run_ == Run::Fall) {
     sightLineAcross.X2 = 6500;
     metresText.Visible = true;
   }
@@ -167,14 +167,14 @@ void ProjectileForm::DrawFall() {
 void ProjectileForm::PassFallBand() {
   for (std::int16_t k = 0; k < bandCount; ++k) {
     const FallBand& band = fallBands[k];
-    if (!band.velocity.Holds(fallVelocity) || !(ball2.Top > band.lowerThan)) continue;
-    if (run == Run::Fall) {
+    if (!band.velocity.Holds(fallVelocity_) || !(ball2.Top > band.lowerThan)) continue;
+    if (run_ == Run::Fall) {
       for (auto marked = static_cast<std::int16_t>(k - band.marks + 1); marked <= k; ++marked)
         SetVisible(true, fallTicks(marked), fallNumbers(marked));
     }
-    fallTicks(k).Y1 = 640 - fallHeight * 12.8;
-    fallTicks(k).Y2 = 640 - fallHeight * 12.8;
-    fallNumbers(k).Top = 520 - fallHeight * 12.8;
+    fallTicks(k).Y1 = 640 - fallHeight_ * 12.8;
+    fallTicks(k).Y2 = 640 - fallHeight_ * 12.8;
+    fallNumbers(k).Top = 520 - fallHeight_ * 12.8;
     fallNumbers(k).Caption = band.metres;
     MoveHand(k + 1);
     vyText.Caption = "= " + ToText(Single(band.shownVelocity)) + " m/s";

@@ -59,12 +59,12 @@ class TrajectoryForm : public TrajectoryControls {
   void DrawComponents();
   void DrawArrowHeads(const ArrowRule& rule);
 
-  Flight flight;
-  Single initialVelocity;  // of the flight that was begun last, m/s
+  Flight flight_;
+  Single initialVelocity_;  // of the flight that was begun last, m/s
   // Of the resultant vector, radians. It is worked out on a way up only: until there is one it is 0, and a
   // way down, also of a later flight, draws its arrow with that of the last way up.
-  Single resultantAngle;
-  bool paused = false;  // the Stop button holds the flight; outlives the window, see SetUp
+  Single resultantAngle_;
+  bool paused_ = false;  // the Stop button holds the flight; outlives the window, see SetUp
 };
 
 }  // namespace quintara

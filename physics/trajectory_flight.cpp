@@ -53,9 +53,9 @@ void TrajectoryForm::PlotFlight(double floor) {
   };
   std::optional<Point> lastAboveFloor;
   std::optional<Single> lastHeightRisen;
-  Flight shell = flight;
+  Flight shell = flight_;
   const double k = Val(dragText.Caption);
-  const std::int16_t end = EndOfSteps(initialVelocity);
+  const std::int16_t end = EndOfSteps(initialVelocity_);
   for (std::int16_t step = 1; step < end; ++step) {
     BallisticStep(shell, k);
     if (shell.y > floor) {
@@ -64,7 +64,7 @@ void TrajectoryForm::PlotFlight(double floor) {
     }
     if (shell.vy > Single(0.01)) lastHeightRisen = shell.y;
   }
-  flight = shell;
+  flight_ = shell;
   if (lastAboveFloor) {
     timeText.Caption = Format(lastAboveFloor->time, Pattern::Whole);
     rangeText.Caption = Format(lastAboveFloor->x, Pattern::Whole);
@@ -82,7 +82,7 @@ void TrajectoryForm::ShowReplayCaptions() {
   vyText.Visible = false;
   fireButton.Enabled = true;
   stopButton.Enabled = false;
-  paused = false;
+  paused_ = false;
   stopButton.Caption = "Stop";
 }
 
@@ -108,27 +108,27 @@ void TrajectoryForm::TakeBallToDistance() {
 
 // The step that passes the slider counts along the ground only: height and time are those of the one before.
 void TrajectoryForm::FlyToSlider() {
-  const std::int16_t end = EndOfSteps(initialVelocity);
+  const std::int16_t end = EndOfSteps(initialVelocity_);
   for (std::int16_t step = 1; step < end; ++step) {
-    StepAlongGround(flight, Val(dragText.Caption));
-    if (flight.x > distanceSlider.Value * metresPerSliderPosition) return;
-    StepUpwards(flight);
-    if (flight.y > 0) PlotPoint(flight.x, flight.y);
+    StepAlongGround(flight_, Val(dragText.Caption));
+    if (flight_.x > distanceSlider.Value * metresPerSliderPosition) return;
+    StepUpwards(flight_);
+    if (flight_.y > 0) PlotPoint(flight_.x, flight_.y);
   }
 }
 
 // At height 0, where the slider stands before the first step, everything stays as it is.
 void TrajectoryForm::ShowBallAtSlider() {
-  if (flight.y < 0) {
+  if (flight_.y < 0) {
     ShowBall(false);
     vectorPanel.Visible = false;
-  } else if (flight.y > 0) {
+  } else if (flight_.y > 0) {
     ShowBall(true);
     vectorPanel.Visible = true;
     // Not quite where a flight shows the ball: half its height to the left instead of half its width, and the
     // top 400 above the point.
-    ball.Left = ChartX(flight.x) - ball.Height / 2;
-    ball.Top = 44600 - flight.y * 7.54;
+    ball.Left = ChartX(flight_.x) - ball.Height / 2;
+    ball.Top = 44600 - flight_.y * 7.54;
   }
 }
 
@@ -153,26 +153,26 @@ void TrajectoryForm::Fire() {
 }
 
 void TrajectoryForm::StopOrGo() {
-  paused = !paused;
-  stopButton.Caption = paused ? "Go" : "Stop";
-  flightTimer.Enabled = !paused;
+  paused_ = !paused_;
+  stopButton.Caption = paused_ ? "Go" : "Stop";
+  flightTimer.Enabled = !paused_;
 }
 
 // The landing leaves the buttons alone: Fire stays disabled until a scroll bar is moved.
 void TrajectoryForm::TickFlight() {
-  if (flight.y < 0) {
+  if (flight_.y < 0) {
     // The ground is found: the ball stops, but this tick still makes its step, and the read-outs show it.
     scene().Beep();
     flightTimer.Enabled = false;
     ShowBall(false);
-  } else if (flight.y > 0) {
+  } else if (flight_.y > 0) {
     ShowBall(true);
     vectorPanel.Visible = true;
   }
-  BallisticStep(flight, Val(dragText.Caption));
+  BallisticStep(flight_, Val(dragText.Caption));
   // Half the width both ways: in chart units the ball's width is not its height.
-  ball.Left = ChartX(flight.x) - ball.Width / 2;
-  ball.Top = ChartY(flight.y) - ball.Width / 2;
+  ball.Left = ChartX(flight_.x) - ball.Width / 2;
+  ball.Top = ChartY(flight_.y) - ball.Width / 2;
   LayProjectionLines();
   ShowFlightReadOuts();
   DrawVectors();
@@ -189,8 +189,8 @@ void TrajectoryForm::StartPaceTimer() {
 void TrajectoryForm::SetPace() {
   paceTimer.Interval = 0;
   paceTimer.Enabled = false;
-  if (flight.x == 0) return;
-  const Single pace = flight.vx / flight.x;
+  if (flight_.x == 0) return;
+  const Single pace = flight_.vx / flight_.x;
   const std::int32_t interval = CLng(pace * 100);
   if (interval >= 1) flightTimer.Interval = interval;
 }
@@ -198,9 +198,9 @@ void TrajectoryForm::SetPace() {
 // Every setting of the flight is taken back from its caption.
 void TrajectoryForm::StartFlight(double dt) {
   const Single elevation = Val(elevationText.Caption) * 3.1416 / 180;
-  initialVelocity = Val(velocityText.Caption);
-  Launch(flight, initialVelocity, elevation);
-  flight.dt = dt;
+  initialVelocity_ = Val(velocityText.Caption);
+  Launch(flight_, initialVelocity_, elevation);
+  flight_.dt = dt;
 }
 
 // In these units a kilometre is 7540 both ways. No control moves; all places on the form are counted anew.
@@ -234,12 +234,12 @@ void TrajectoryForm::ShowComponentReadOuts() {
 }
 
 void TrajectoryForm::ShowFlightReadOuts() {
-  rangeText.Caption = Format(flight.x, Pattern::TwoDecimals);
-  heightText.Caption = Format(flight.y, Pattern::TwoDecimals);
-  vxText.Caption = Format(flight.vx, Pattern::TwoDecimals);
-  vyText.Caption = Format(flight.vy, Pattern::TwoDecimals);
-  speedText.Caption = Format(flight.speed, Pattern::TwoDecimals);
-  timeText.Caption = Format(flight.time, Pattern::TwoDecimals);
+  rangeText.Caption = Format(flight_.x, Pattern::TwoDecimals);
+  heightText.Caption = Format(flight_.y, Pattern::TwoDecimals);
+  vxText.Caption = Format(flight_.vx, Pattern::TwoDecimals);
+  vyText.Caption = Format(flight_.vy, Pattern::TwoDecimals);
+  speedText.Caption = Format(flight_.speed, Pattern::TwoDecimals);
+  timeText.Caption = Format(flight_.time, Pattern::TwoDecimals);
 }
 
 }  // namespace quintara

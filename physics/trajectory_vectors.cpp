@@ -13,14 +13,14 @@ constexpr double barb = 10;
 }  // namespace
 
 void TrajectoryForm::DrawVectors() {
-  if (flight.vy > 0) DrawVectorsAscending();
-  if (flight.vy < 0) DrawVectorsDescending();
+  if (flight_.vy > 0) DrawVectorsAscending();
+  if (flight_.vy < 0) DrawVectorsDescending();
 }
 
 // Lines count downwards, so on the way up the angle is the negative one of the path; the head turns with it.
 void TrajectoryForm::DrawVectorsAscending() {
   DrawComponents();
-  resultantAngle = Atn((resultantArrow.Y1 - xArrow.Y1) / (xArrow.X2 - xArrow.X1));
+  resultantAngle_ = Atn((resultantArrow.Y1 - xArrow.Y1) / (xArrow.X2 - xArrow.X1));
   DrawArrowHeads({.upperBarbX2 = 1, .upperBarbY1 = 1, .lowerBarbY1 = 1, .yBarbsBelow = barb});
 }
 
@@ -31,21 +31,21 @@ void TrajectoryForm::DrawVectorsDescending() {
 }
 
 void TrajectoryForm::DrawComponents() {
-  yArrow.Y2 = yArrow.Y1 - (flight.vy + flight.vy);
-  xArrow.X2 = xArrow.X1 + (flight.vx + flight.vx);
+  yArrow.Y2 = yArrow.Y1 - (flight_.vy + flight_.vy);
+  xArrow.X2 = xArrow.X1 + (flight_.vx + flight_.vx);
   resultantArrow.X1 = xArrow.X2;
   resultantArrow.Y1 = yArrow.Y2;
 }
 
 void TrajectoryForm::DrawArrowHeads(const ArrowRule& rule) {
-  const Single complement = 3.1416 / 2 - resultantAngle;
+  const Single complement = 3.1416 / 2 - resultantAngle_;
   xUpperBarb.Lay({xArrow.X2 + barb, xArrow.Y2, xArrow.X2, xArrow.Y2 - barb});
   xLowerBarb.Lay({xArrow.X2 + barb, xArrow.Y2, xArrow.X2, xArrow.Y2 + barb});
 
   const double tipX = resultantArrow.X1;
   const double tipY = resultantArrow.Y1;
-  const double across = barb * Cos(resultantAngle);
-  const double down = barb * Sin(resultantAngle);
+  const double across = barb * Cos(resultantAngle_);
+  const double down = barb * Sin(resultantAngle_);
   resultantUpperBarb.Lay(
       {tipX + across, tipY + rule.upperBarbY1 * down, tipX + rule.upperBarbX2 * down, tipY - across});
   resultantLowerBarb.Lay({tipX + across, tipY + rule.lowerBarbY1 * down, tipX - barb * Cos(complement),
