@@ -25,22 +25,22 @@ struct Game {
   // Searches for a target at 22.052 km and opens its profile.
   void OpenProfile() {
     program.scene().chance().Queue(379.5 / 6000);
-    UserClicks(form.cmdSearch);
-    while (!form.cmdMagnify.Enabled) Advance(50);
-    UserClicks(form.cmdMagnify);
+    UserClicks(form.searchButton);
+    while (!form.magnifyButton.Enabled) Advance(50);
+    UserClicks(form.magnifyButton);
   }
   void Lay(std::int16_t elevation, std::int16_t velocity) {
-    UserDragsTo(form.VScroll1, static_cast<std::int16_t>(370 - elevation));
-    UserDragsTo(form.VScroll2, velocity);
+    UserDragsTo(form.elevationBar, static_cast<std::int16_t>(370 - elevation));
+    UserDragsTo(form.velocityBar, velocity);
   }
   void Fire() {
-    UserClicks(form.Image7);
-    while (form.tmrShell.Enabled) Advance(17);
+    UserClicks(form.fireButton);
+    while (form.shellTimer.Enabled) Advance(17);
   }
   TrajectoryForm& OpenSimulator() {
     TrajectoryForm& simulator = program.trajectory();
     simulator.Show();
-    UserDragsTo(simulator.HScroll2, 300);
+    UserDragsTo(simulator.velocityBar, 300);
     return simulator;
   }
 };
@@ -88,7 +88,7 @@ BENCHMARK(ReadOfAPlainNumber);
 
 void ReadOfAProperty(benchmark::State& state) {
   Game game;
-  const Coordinate& place = game.form.Shape1(0).Left;
+  const Coordinate& place = game.form.shells(0).Left;
   for (auto _ : state) {
     for (int i = 0; i < manyTimes; ++i) {
       benchmark::ClobberMemory();
@@ -115,7 +115,7 @@ BENCHMARK(WriteOfAPlainNumber);
 
 void WriteOfAProperty(benchmark::State& state) {
   Game game;
-  Coordinate& place = game.form.Shape1(0).Left;
+  Coordinate& place = game.form.shells(0).Left;
   for (auto _ : state) {
     for (int i = 0; i < manyTimes; ++i) {
       double fresh = i;
@@ -130,15 +130,15 @@ BENCHMARK(WriteOfAProperty);
 
 void TickOfTheRadar(benchmark::State& state) {
   Game game;
-  UserClicks(game.form.cmdSearch);
+  UserClicks(game.form.searchButton);
   for (auto _ : state) {
-    if (!game.form.tmrBounce.Enabled && !game.form.tmrBounce2.Enabled) {
+    if (!game.form.driftRightTimer.Enabled && !game.form.driftLeftTimer.Enabled) {
       state.PauseTiming();
-      game.form.cmdSearch.Enabled = true;
-      UserClicks(game.form.cmdSearch);
+      game.form.searchButton.Enabled = true;
+      UserClicks(game.form.searchButton);
       state.ResumeTiming();
     }
-    (game.form.tmrBounce.Enabled ? game.form.tmrBounce : game.form.tmrBounce2).Tick.Raise();
+    (game.form.driftRightTimer.Enabled ? game.form.driftRightTimer : game.form.driftLeftTimer).Tick.Raise();
   }
 }
 BENCHMARK(TickOfTheRadar);
@@ -148,13 +148,13 @@ void ChangeOfLaying(benchmark::State& state) {
   game.OpenProfile();
   game.Lay(80, 750);
   if (state.range(0) != 0) {
-    for (int shell = 1; shell <= 5; ++shell) UserClicks(game.form.Image7);
-    game.form.tmrShell.Enabled = false;
+    for (int shell = 1; shell <= 5; ++shell) UserClicks(game.form.fireButton);
+    game.form.shellTimer.Enabled = false;
   }
   std::int16_t elevation = 290;
   for (auto _ : state) {
     elevation = static_cast<std::int16_t>(581 - elevation);  // 80 degrees and 79 in turn
-    game.form.VScroll1.Value = elevation;
+    game.form.elevationBar.Value = elevation;
   }
 }
 BENCHMARK(ChangeOfLaying)->ArgName("plotted")->Arg(0)->Arg(1);
@@ -163,16 +163,16 @@ void TickOfTheShell(benchmark::State& state) {
   Game game;
   game.OpenProfile();
   game.Lay(80, 750);
-  UserDragsTo(game.form.HScroll1, 1);
-  UserClicks(game.form.Image7);
+  UserDragsTo(game.form.flightTimeBar, 1);
+  UserClicks(game.form.fireButton);
   for (auto _ : state) {
     if (!(game.form.flight.y > 5000 || game.form.flight.vy > 0)) {
       state.PauseTiming();
-      game.form.Label21.Caption = "1";
-      UserClicks(game.form.Image7);
+      game.form.shellInGun.Caption = "1";
+      UserClicks(game.form.fireButton);
       state.ResumeTiming();
     }
-    game.form.tmrShell.Tick.Raise();
+    game.form.shellTimer.Tick.Raise();
   }
 }
 BENCHMARK(TickOfTheShell);
@@ -184,7 +184,7 @@ void ReplayOfTheSimulator(benchmark::State& state) {
   std::int16_t elevation = 290;
   for (auto _ : state) {
     elevation = static_cast<std::int16_t>(581 - elevation);
-    form.HScroll1.Value = elevation;
+    form.elevationBar.Value = elevation;
   }
 }
 BENCHMARK(ReplayOfTheSimulator);
@@ -196,7 +196,7 @@ void SliderOfTheSimulator(benchmark::State& state) {
   std::int32_t position = 0;
   for (auto _ : state) {
     position = position == 100 ? 0 : position + 1;
-    UserDragsTo(form.Slider1, position);
+    UserDragsTo(form.distanceSlider, position);
   }
 }
 BENCHMARK(SliderOfTheSimulator);
@@ -208,8 +208,8 @@ void PlayAGame(Game& game, int shells) {
     game.Lay(static_cast<std::int16_t>(40 + 5 * shell), 600);
     game.Fire();
   }
-  game.form.cmdReset.Enabled = true;
-  UserClicks(game.form.cmdReset);
+  game.form.resetButton.Enabled = true;
+  UserClicks(game.form.resetButton);
   game.Advance(1000);
 }
 

@@ -64,13 +64,13 @@ struct Game {
   }
   void OpenProfile() {
     program.scene().chance().Queue(0.06325);  // a target at 22 km
-    Click(form.cmdSearch);
-    while (!form.cmdMagnify.Enabled) Advance(50);
-    Click(form.cmdMagnify);
+    Click(form.searchButton);
+    while (!form.magnifyButton.Enabled) Advance(50);
+    Click(form.magnifyButton);
   }
   void Lay(std::int16_t elevationBar, std::int16_t velocity) {
-    session.Run([&] { UserDragsTo(form.VScroll1, elevationBar); });
-    session.Run([&] { UserDragsTo(form.VScroll2, velocity); });
+    session.Run([&] { UserDragsTo(form.elevationBar, elevationBar); });
+    session.Run([&] { UserDragsTo(form.velocityBar, velocity); });
   }
 };
 
@@ -175,18 +175,18 @@ void FramesOfAFlight(benchmark::State& state) {
   const auto* dispatcher = QAbstractEventDispatcher::instance();
   QObject::connect(dispatcher, &QAbstractEventDispatcher::awake, &guard, [&] { turn.start(); });
   QObject::connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, &guard, [&] {
-    if (std::exchange(place, game.form.Shape1(0).Left) != game.form.Shape1(0).Left)
+    if (std::exchange(place, game.form.shells(0).Left) != game.form.shells(0).Left)
       milliseconds.push_back(static_cast<double>(turn.nsecsElapsed()) / 1e6);
   });
   for (auto _ : state) {
-    game.Click(game.form.Image7);
+    game.Click(game.form.fireButton);
     all.start();
     processor -= ProcessorSeconds();
-    while (game.form.tmrShell.Enabled && all.elapsed() < 20'000)
+    while (game.form.shellTimer.Enabled && all.elapsed() < 20'000)
       QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     processor += ProcessorSeconds();
     seconds += static_cast<double>(all.nsecsElapsed()) / 1e9;
-    game.Click(game.form.cmdReset);
+    game.Click(game.form.resetButton);
   }
   std::sort(milliseconds.begin(), milliseconds.end());
   state.counters["frames"] = static_cast<double>(milliseconds.size());
@@ -200,24 +200,24 @@ BENCHMARK(FramesOfAFlight)->Iterations(3)->Unit(benchmark::kSecond);
 void PlayASecond(Game& game, std::mt19937& random) {
   const auto any = [&](int count) { return static_cast<int>(random() % static_cast<unsigned>(count)); };
   QuintaraForm& form = game.form;
-  for (Object* button : {static_cast<Object*>(&form.cmdSearch), static_cast<Object*>(&form.cmdMagnify),
-                         static_cast<Object*>(&form.cmdReset)})
+  for (Object* button : {static_cast<Object*>(&form.searchButton), static_cast<Object*>(&form.magnifyButton),
+                         static_cast<Object*>(&form.resetButton)})
     game.Click(*button);
-  if (form.Image7.Enabled && !form.tmrShell.Enabled) {
+  if (form.fireButton.Enabled && !form.shellTimer.Enabled) {
     game.Lay(static_cast<std::int16_t>(290 + any(70)), static_cast<std::int16_t>(250 + any(500)));
-    game.Click(form.Image7);
+    game.Click(form.fireButton);
   }
   if (any(20) == 0) {
-    Menu* const documents[] = {&form.mnuScenario, &form.mnuRules, &form.mnuPhysics, &form.mnuMasters};
+    Menu* const documents[] = {&form.scenarioItem, &form.rulesItem, &form.physicsItem, &form.mastersItem};
     game.platform.Choose(*documents[any(4)]);
-    game.Click(form.cmdHelp);
-    game.Click(game.program.analysis().cmdTrajectory);
-    game.Click(game.program.analysis().cmdFreeFall);
-    game.Click(game.program.trajectory().cmdFire);
-    game.Click(game.program.projectile().cmdBall3);
+    game.Click(form.helpButton);
+    game.Click(game.program.analysis().simulatorButton);
+    game.Click(game.program.analysis().benchButton);
+    game.Click(game.program.trajectory().fireButton);
+    game.Click(game.program.projectile().ball3Button);
   }
-  if (any(20) == 0) game.Click(game.program.analysis().cmdCancel);
-  if (any(20) == 0) game.Click(game.program.masters().cmdCancel);
+  if (any(20) == 0) game.Click(game.program.analysis().cancelButton);
+  if (any(20) == 0) game.Click(game.program.masters().cancelButton);
   for (int frame = 0; frame < 20; ++frame) game.Advance(50);
 }
 

@@ -20,7 +20,7 @@ void Tour::Play() {
   PlayBonusShell();
   ReadDocuments();
   ShowDemonstrations();
-  Click(program_.quintara().cmdCancel);
+  Click(program_.quintara().cancelButton);
 }
 
 void Tour::PlayFirstTarget() {
@@ -33,18 +33,18 @@ void Tour::PlayFirstTarget() {
   Lay({320, 360});
   Picture("aiming", game);
   Fire();
-  AdvanceUntil([&] { return game.Line28.Visible.Get(); });
+  AdvanceUntil([&] { return game.slopeRayNormal.Visible.Get(); });
   Picture("burst-on-slope", game);
 
   Lay({310, 500});
   Fire();
-  AdvanceUntil([&] { return game.Line37.Visible.Get(); });
+  AdvanceUntil([&] { return game.levelRayUp.Visible.Get(); });
   Picture("burst-on-ground", game);
 
   TurnDragOn();
   Lay({311, 530});
   Fire();
-  AdvanceUntil([&] { return game.shpExplode5.Visible.Get(); });
+  AdvanceUntil([&] { return game.fragment5.Visible.Get(); });
   constexpr std::int64_t whileTheFlamesStand = 250;
   Advance(whileTheFlamesStand);
   Picture("hit", game);
@@ -58,7 +58,7 @@ void Tour::PlaySecondAndThirdTarget() {
   TurnDragOn();
   Lay({310, 510});
   Fire();
-  AdvanceUntil([&] { return game.Shape1(0).Left > 2000; });
+  AdvanceUntil([&] { return game.shells(0).Left > 2000; });
   Picture("in-flight", game);
   PictureWithFrames("screenshot", {&game});
   WaitForReset();
@@ -81,11 +81,11 @@ void Tour::PlayBonusShell() {
   Fire();
   AdvanceUntil([&] { return masters.IsVisible(); });
   Picture("bonus-hit", game);
-  Type(masters.Text1, "Ada Lovelace");
+  Type(masters.nameBox, "Ada Lovelace");
   Picture("masters-offer", masters);
-  Type(masters.Text1, "\r");
+  Type(masters.nameBox, "\r");
   Picture("masters", masters);
-  Click(masters.cmdCancel);
+  Click(masters.cancelButton);
   constexpr std::int64_t untilTheFragmentsLie = 3000;
   Advance(untilTheFragmentsLie);
   WaitForReset();
@@ -94,38 +94,38 @@ void Tour::PlayBonusShell() {
 void Tour::ReadDocuments() {
   QuintaraForm& game = program_.quintara();
   AnalysisForm& documents = program_.analysis();
-  Choose(game.mnuScenario);
+  Choose(game.scenarioItem);
   Picture("scenario", documents);
   Picture("place-names", game);
-  Click(documents.cmdCancel);
-  Choose(game.mnuRules);
+  Click(documents.cancelButton);
+  Choose(game.rulesItem);
   Picture("rules", documents);
-  Choose(game.mnuAbout);
+  Choose(game.aboutItem);
   Picture("about", program_.about());
-  Click(program_.about().cmdOK);
-  Choose(game.mnuReadme);
+  Click(program_.about().okButton);
+  Choose(game.readmeItem);
   Picture("readme", game);
-  Click(game.cmdCloseReadme);
+  Click(game.closeReadmeButton);
 }
 
 void Tour::ShowDemonstrations() {
   AnalysisForm& documents = program_.analysis();
   ProjectileForm& bench = program_.projectile();
   TrajectoryForm& simulator = program_.trajectory();
-  Choose(program_.quintara().mnuPhysics);
+  Choose(program_.quintara().physicsItem);
   Picture("analysis", documents);
 
-  Click(documents.cmdFreeFall);
-  Click(bench.cmdBall3);
+  Click(documents.benchButton);
+  Click(bench.ball3Button);
   constexpr std::int64_t ballsHalfWayDown = 5000;
   Advance(ballsHalfWayDown);
   Picture("projectile", bench);
 
-  Click(documents.cmdTrajectory);
-  Drag(simulator.HScroll1, 315);
-  Drag(simulator.HScroll2, 280);
-  Click(simulator.cmdFire);
-  AdvanceUntil([&] { return simulator.Shape1.Left > 50000; });
+  Click(documents.simulatorButton);
+  Drag(simulator.elevationBar, 315);
+  Drag(simulator.velocityBar, 280);
+  Click(simulator.fireButton);
+  AdvanceUntil([&] { return simulator.ball.Left > 50000; });
   Picture("trajectory", simulator);
   PictureWithFrames("screenshot-teaching", {&bench, &simulator});
 }
@@ -133,42 +133,42 @@ void Tour::ShowDemonstrations() {
 void Tour::FindTarget(double chance) {
   QuintaraForm& game = program_.quintara();
   Queue(chance);
-  Click(game.cmdSearch);
+  Click(game.searchButton);
   if (chance == farTarget) {
     constexpr std::int64_t onTheWay = 7000;
     Advance(onTheWay);
     Picture("searching", game);
   }
-  AdvanceUntil([&] { return game.cmdMagnify.Enabled.Get(); });
+  AdvanceUntil([&] { return game.magnifyButton.Enabled.Get(); });
 }
 
 void Tour::OpenProfile() {
-  Click(program_.quintara().cmdMagnify);
+  Click(program_.quintara().magnifyButton);
 }
 
 void Tour::TurnDragOn() {
   Queue(0);  // the thinnest air
-  Click(program_.quintara().cmdAdvanced);
+  Click(program_.quintara().dragButton);
 }
 
 void Tour::Lay(const Shot& shot) {
-  Drag(program_.quintara().VScroll1, shot.elevationBar);
-  Drag(program_.quintara().VScroll2, shot.velocity);
+  Drag(program_.quintara().elevationBar, shot.elevationBar);
+  Drag(program_.quintara().velocityBar, shot.velocity);
 }
 
 void Tour::Fire() {
-  Click(program_.quintara().Image7);
+  Click(program_.quintara().fireButton);
 }
 
 void Tour::WaitForReset() {
   QuintaraForm& game = program_.quintara();
-  AdvanceUntil([&] { return game.cmdReset.Enabled.Get(); });
-  Click(game.cmdReset);
+  AdvanceUntil([&] { return game.resetButton.Enabled.Get(); });
+  Click(game.resetButton);
 }
 
 void Tour::Choose(Menu& item) {
   platform_.Choose(item);
-  Click(program_.quintara().cmdHelp);
+  Click(program_.quintara().helpButton);
 }
 
 }  // namespace quintara::desktop

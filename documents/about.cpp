@@ -4,19 +4,14 @@
 
 namespace quintara {
 
-AboutForm::AboutForm(Scene& owner)
-    : Form(owner, "About", {.caption = "About Quintara", .clientWidth = 4305, .clientHeight = 1590}) {
-  Bind(Load, &AboutForm::Form_Load);
-  Bind(cmdOK.Click, &AboutForm::cmdOK_Click);
+AboutForm::AboutForm(Scene& owner) : AboutControls(owner) {
+  Bind(Load, &AboutForm::CentreOnScreen);
+  Bind(okButton.Click, &AboutForm::Unload);
 }
 
-void AboutForm::Form_Load() {
+void AboutForm::CentreOnScreen() {
   Left = scene().ScreenWidth() / 2 - Width / 2;
   Top = scene().ScreenHeight() / 2 - Height / 2;
-}
-
-void AboutForm::cmdOK_Click() {
-  Unload();
 }
 
 }  // namespace quintara

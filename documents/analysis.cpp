@@ -4,22 +4,14 @@
 
 namespace quintara {
 
-AnalysisForm::AnalysisForm(Scene& owner, const MainForm& mainForm, ProjectileForm& projectileForm,
-                           TrajectoryForm& trajectoryForm)
-    : Form(owner, "Analysis",
-           {.caption = "Analysis of Quintara",
-            .clientWidth = 5985,
-            .clientHeight = 9240,
-            .scale = Scale::InUnitsOf(1, 1)}),
-      Analysis(*this),
-      main_(mainForm),
-      projectile(projectileForm),
-      frmTrajectory(trajectoryForm) {
-  Bind(rtbMath.SelChange, &AnalysisForm::rtbMath_SelChange);
-  Bind(cmdCopy.Click, &AnalysisForm::cmdCopy_Click);
-  Bind(cmdFreeFall.Click, &AnalysisForm::cmdFreeFall_Click);
-  Bind(cmdTrajectory.Click, &AnalysisForm::cmdTrajectory_Click);
-  Bind(cmdCancel.Click, &AnalysisForm::cmdCancel_Click);
+AnalysisForm::AnalysisForm(Scene& owner, const MainForm& mainForm, ProjectileForm& bench,
+                           TrajectoryForm& simulator)
+    : AnalysisControls(owner), self_(*this), mainForm_(mainForm), bench_(bench), simulator_(simulator) {
+  Bind(documentBox.SelChange, &AnalysisForm::OfferCopy);
+  Bind(copyButton.Click, &AnalysisForm::CopySelection);
+  Bind(benchButton.Click, &AnalysisForm::OpenBench);
+  Bind(simulatorButton.Click, &AnalysisForm::OpenSimulator);
+  Bind(cancelButton.Click, &AnalysisForm::CloseWithDemonstrations);
 }
 
 void AnalysisForm::Open(HelpTopic topic) {
@@ -28,62 +20,62 @@ void AnalysisForm::Open(HelpTopic topic) {
   Width = document.width;
   TakePosition(document.position);
   Caption = document.caption;
-  rtbMath.Width = document.textWidth;
-  rtbMath.Height = document.textHeight;
-  cmdCancel.Left = document.cancelLeft;
-  cmdCancel.Top = document.cancelTop;
-  cmdCopy.Left = document.copyLeft;
-  cmdCopy.Top = document.copyTop;
-  main_.valleyName.Visible = document.placeNames;
-  main_.peakName.Visible = document.placeNames;
-  cmdTrajectory.Visible = document.demonstrations;
-  cmdFreeFall.Visible = document.demonstrations;
-  ReadDocumentInto(rtbMath, main_.shared.programFolder, document.file);
+  documentBox.Width = document.textWidth;
+  documentBox.Height = document.textHeight;
+  cancelButton.Left = document.cancelLeft;
+  cancelButton.Top = document.cancelTop;
+  copyButton.Left = document.copyLeft;
+  copyButton.Top = document.copyTop;
+  mainForm_.valleyName.Visible = document.placeNames;
+  mainForm_.peakName.Visible = document.placeNames;
+  simulatorButton.Visible = document.demonstrations;
+  benchButton.Visible = document.demonstrations;
+  ReadDocumentInto(documentBox, mainForm_.shared.programFolder, document.file);
   Show();
 }
 
 void AnalysisForm::TakePosition(DocumentPosition position) {
   if (position == DocumentPosition::Beside) {
-    Left = main_.form.Left + 80;
-    Top = main_.form.Top + 340;
+    Left = mainForm_.form.Left + 80;
+    Top = mainForm_.form.Top + 340;
     return;
   }
-  Left = main_.form.Width / 2 - Width / 2;
-  Top = main_.form.Height / 2 - (position == DocumentPosition::Centred ? Height / 2 : 0);
+  Left = mainForm_.form.Width / 2 - Width / 2;
+  Top = mainForm_.form.Height / 2 - (position == DocumentPosition::Centred ? Height / 2 : 0);
 }
 
 // Nothing switches the button off again while the window stays open.
-void AnalysisForm::rtbMath_SelChange() {
-  if (rtbMath.SelLength() > 0) cmdCopy.Enabled = true;
+void AnalysisForm::OfferCopy() {
+  if (documentBox.SelLength() > 0) copyButton.Enabled = true;
 }
 
-void AnalysisForm::cmdCopy_Click() {
-  if (rtbMath.SelLength() > 0) scene().platform().PutOnClipboard(rtbMath.SelText());
+void AnalysisForm::CopySelection() {
+  if (documentBox.SelLength() > 0) scene().platform().PutOnClipboard(documentBox.SelText());
 }
 
-void AnalysisForm::cmdFreeFall_Click() {
-  projectile->Show();
-  PlaceBesideMainForm(*projectile);
+void AnalysisForm::OpenBench() {
+  bench_->Show();
+  PlaceBesideMainForm(*bench_);
 }
 
-void AnalysisForm::cmdTrajectory_Click() {
-  frmTrajectory->Show();
-  PlaceBesideMainForm(*frmTrajectory);
+void AnalysisForm::OpenSimulator() {
+  simulator_->Show();
+  PlaceBesideMainForm(*simulator_);
 }
 
 void AnalysisForm::PlaceBesideMainForm(Form& demonstration) {
-  demonstration.Left = main_.form.Left + 6200;
-  demonstration.Top = main_.form.Top + 1500;
+  demonstration.Left = mainForm_.form.Left + 6200;
+  demonstration.Top = mainForm_.form.Top + 1500;
 }
 
-void AnalysisForm::cmdCancel_Click() {
-  Analysis.Unload();
-  main_.valleyName.Visible = false;
-  main_.peakName.Visible = false;
-  frmTrajectory.Unload();
-  projectile.Unload();
+void AnalysisForm::CloseWithDemonstrations() {
+  self_.Unload();
+  mainForm_.valleyName.Visible = false;
+  mainForm_.peakName.Visible = false;
+  simulator_.Unload();
+  bench_.Unload();
   // This touch loads the form again, hidden; it is meant so that the next opening starts with the button off.
-  Analysis->cmdCopy.Enabled = false;
+  self_->copyButton.Enabled = false;
 }
 
 void ReadDocumentInto(RichTextBox& box, const std::string& folder, std::string_view name) {

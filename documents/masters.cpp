@@ -13,17 +13,15 @@ constexpr double grandMasterPoints = 45;
 }  // namespace
 
 MastersForm::MastersForm(Scene& owner, const MainForm& mainForm)
-    : Form(owner, "frmMasters",
-           {.caption = "Masters of Quintara", .clientWidth = 11085, .clientHeight = 8985}),
-      main_(mainForm) {
-  Bind(Load, &MastersForm::Form_Load);
-  Bind(Text1.KeyPress, &MastersForm::Text1_KeyPress);
-  Bind(cmdRemove.Click, &MastersForm::cmdRemove_Click);
-  Bind(cmdCancel.Click, &MastersForm::cmdCancel_Click);
+    : MastersControls(owner), mainForm_(mainForm) {
+  Bind(Load, &MastersForm::ReadList);
+  Bind(nameBox.KeyPress, &MastersForm::EnterName);
+  Bind(removeButton.Click, &MastersForm::RemoveNames);
+  Bind(cancelButton.Click, &MastersForm::Unload);
 }
 
-void MastersForm::Form_Load() {
-  const std::string path = main_.shared.programFolder + "Masters.txt";
+void MastersForm::ReadList() {
+  const std::string path = mainForm_.shared.programFolder + "Masters.txt";
   const auto lines = scene().files().ReadLines(path);
   fileIsUnread_ = !lines && scene().files().Exists(path);
   if (fileIsUnread_) {
@@ -31,40 +29,37 @@ void MastersForm::Form_Load() {
         "The list of masters in the file Masters.txt could not be read. The file is left as it is.");
   }
   if (!lines) return;
-  for (const std::string& line : *lines) List1.AddItem(line);
+  for (const std::string& line : *lines) list.AddItem(line);
 }
 
-void MastersForm::Text1_KeyPress(std::int16_t KeyAscii) {
-  if (KeyAscii != enter) return;
-  const double points = Val(main_.score.Caption);
+void MastersForm::EnterName(std::int16_t key) {
+  if (key != enter) return;
+  const double points = Val(mainForm_.score.Caption);
   if (points >= masterPoints && points < grandMasterPoints) {
-    List1.AddItem(Text1.Text.Get() + " - Master of Quintara");
+    list.AddItem(nameBox.Text.Get() + " - Master of Quintara");
   } else if (points >= grandMasterPoints) {
-    List1.AddItem(Text1.Text.Get() + " - Grand Master of Quintara");
+    list.AddItem(nameBox.Text.Get() + " - Grand Master of Quintara");
   }
-  Picture1.Visible = false;
+  namePanel.Visible = false;
   SaveList();
-  main_.shared.PlayUnlessSoundIsOff(scene(), "gong.wav");
+  mainForm_.shared.PlayUnlessSoundIsOff(scene(), "gong.wav");
 }
 
-void MastersForm::cmdRemove_Click() {
+void MastersForm::RemoveNames() {
   constexpr std::int32_t yesNoWithExclamation = 52;
   constexpr std::int32_t yes = 6;
   const std::int32_t answer =
       scene().MsgBox("Are you sure you want to erase all names from the Quintara Master list?",
                      yesNoWithExclamation, "Removing names");
   if (answer != yes) return;
-  List1.Clear();
-  Picture1.Visible = false;
+  list.Clear();
+  namePanel.Visible = false;
   SaveList();
 }
 
-void MastersForm::cmdCancel_Click() {
-  Unload();
-}
-
 void MastersForm::SaveList() {
-  if (!fileIsUnread_ && scene().files().WriteLines(main_.shared.programFolder + "Masters.txt", List1.items()))
+  if (!fileIsUnread_ &&
+      scene().files().WriteLines(mainForm_.shared.programFolder + "Masters.txt", list.items()))
     return;
   scene().TellFault(
       "The list of masters could not be saved in the file Masters.txt. The file was left as it is; the list "

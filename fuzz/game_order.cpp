@@ -35,12 +35,12 @@ void RequireFlight(const Flight& flight) {
 }
 
 void RequireScores(QuintaraForm& form) {
-  const double fired = Val(form.Label25.Caption), shell = Val(form.Label21.Caption);
-  const double actual = Val(form.Label17.Caption), most = Val(form.Label23.Caption);
-  Require(fired >= 0 && fired <= 6, "at most six shells are fired", form.Label25.Caption);
-  Require(shell == std::min(fired + 1, 6.0), "the next shell is in the gun", form.Label21.Caption);
+  const double fired = Val(form.shotsFired.Caption), shell = Val(form.shellInGun.Caption);
+  const double actual = Val(form.score.Caption), most = Val(form.bestScore.Caption);
+  Require(fired >= 0 && fired <= 6, "at most six shells are fired", form.shotsFired.Caption);
+  Require(shell == std::min(fired + 1, 6.0), "the next shell is in the gun", form.shellInGun.Caption);
   Require(std::fmod(actual, 5) == 0 && std::fmod(most, 5) == 0, "points come in fives");
-  Require(actual >= 0, "nobody owes points", form.Label17.Caption);
+  Require(actual >= 0, "nobody owes points", form.score.Caption);
 }
 
 }  // namespace
@@ -58,8 +58,8 @@ void RequireGameOrder(Program& program) {
   RequireFlight(form.flight);
   RequireScores(form);
   // Only a lock-on at the very turn leaves the other timer one tick more.
-  Require(!(form.tmrBounce.Enabled && form.tmrBounce2.Enabled), "the target runs one way");
-  Require(form.Picture5.Visible || (!form.Label3.Has(1) && !form.Line11.Has(16)),
+  Require(!(form.driftRightTimer.Enabled && form.driftLeftTimer.Enabled), "the target runs one way");
+  Require(form.profile.Visible || (!form.rangeNumbers.Has(1) && !form.heightTicks.Has(16)),
           "the scales go with the profile");
 }
 

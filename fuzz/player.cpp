@@ -29,14 +29,14 @@ void Player::Act() {
   Dispatcher& dispatcher = program_.scene().dispatcher();
   const std::uint8_t action = bytes_.Take();
   switch (action) {
-    case 'S': UserClicks(form.cmdSearch); break;
-    case 'M': UserClicks(form.cmdMagnify); break;
-    case 'F': UserClicks(form.Image7); break;
-    case 'R': UserClicks(form.cmdReset); break;
-    case 'D': UserClicks(form.cmdAdvanced); break;
-    case 'E': Lay(form.VScroll1); break;
-    case 'V': Lay(form.VScroll2); break;
-    case 'T': Lay(form.HScroll1); break;
+    case 'S': UserClicks(form.searchButton); break;
+    case 'M': UserClicks(form.magnifyButton); break;
+    case 'F': UserClicks(form.fireButton); break;
+    case 'R': UserClicks(form.resetButton); break;
+    case 'D': UserClicks(form.dragButton); break;
+    case 'E': Lay(form.elevationBar); break;
+    case 'V': Lay(form.velocityBar); break;
+    case 'T': Lay(form.flightTimeBar); break;
     case 'L': WatchToTheEnd(); break;
     case 'W': dispatcher.Advance(bytes_.Take()); break;
     case 'P': dispatcher.PassTime(bytes_.Take()); break;
@@ -44,11 +44,11 @@ void Player::Act() {
     case 'Q': program_.scene().chance().Queue(bytes_.Take() / 256.0); break;
     case 'B': platform_.boxAnswer = bytes_.Take() % 8; break;
     case 'Z': disk_.full = !disk_.full; break;
-    case 'J': UserClicks(program_.analysis().cmdFreeFall); break;
-    case 'K': UserClicks(program_.analysis().cmdTrajectory); break;
+    case 'J': UserClicks(program_.analysis().benchButton); break;
+    case 'K': UserClicks(program_.analysis().simulatorButton); break;
     case 'H':
       platform_.menuAnswer = bytes_.Below(16);
-      UserClicks(form.cmdHelp);
+      UserClicks(form.helpButton);
       break;
     default: ActInWindow(action);
   }
@@ -93,8 +93,8 @@ void Player::WatchToTheEnd() {
   constexpr int longest = 13'000, glance = 500;
   const QuintaraForm& form = program_.quintara();
   const auto isMoving = [&form] {
-    return form.tmrBounce.Enabled || form.tmrBounce2.Enabled || form.tmrShell.Enabled ||
-           form.tmrExplode.Enabled;
+    return form.driftRightTimer.Enabled || form.driftLeftTimer.Enabled || form.shellTimer.Enabled ||
+           form.fragmentTimer.Enabled;
   };
   for (int watched = 0; watched < longest && isMoving(); watched += glance)
     program_.scene().dispatcher().Advance(glance);

@@ -29,9 +29,9 @@ bool LiesUnder(const OutlineSegment& segment, Single x, Single y) {
 // point of this tick counts: a fast shell may pass through a thin place between two ticks.
 void QuintaraForm::TestForImpact() {
   if (StrikesFoot()) {
-    BurstOnMountainFace();
-  } else if (StrikesOutline()) {
-    BurstOnProfile();
+    BurstOnFoot();
+  } else if (const std::optional<Single> slope = SlopeStruck()) {
+    BurstOnSlope(*slope);
   } else if (StrikesTarget()) {
     HitTarget();
   } else if (flight.y < 0 && flight.x > 10000) {
@@ -39,76 +39,75 @@ void QuintaraForm::TestForImpact() {
   }
 }
 
-bool QuintaraForm::StrikesFoot() {
-  const Single centre = Shape1(0).Left + Shape1(0).Width / 2;
-  const Single lowerEdge =
-      Shape1(0).Top + Shape1(0).Width;  // by the Width, as the reach of the foot was tuned
-  // Line35.X2 counts in Picture11 and is compared as it stands, without Picture11.Left: the foot reaches to
-  // 3460.
-  return centre > Line13.X1 && centre < Line35.X2 && lowerEdge > Line13.Y1;
+bool QuintaraForm::StrikesFoot() const {
+  const Single centre = shells(0).Left + shells(0).Width / 2;
+  // By the Width, as the reach of the foot was tuned.
+  const Single lowerEdge = shells(0).Top + shells(0).Width;
+  // slope6.X2 counts in the mountain's box and is compared as it stands, without mountain.Left: the foot
+  // reaches to 3460.
+  return centre > mountainFoot.X1 && centre < slope6.X2 && lowerEdge > mountainFoot.Y1;
 }
 
-bool QuintaraForm::StrikesOutline() {
+// The angle of the slope that the shell strikes, in radians; none where it strikes none.
+std::optional<Single> QuintaraForm::SlopeStruck() const {
   // The run of a slope is meant to be the next segment's; only the last one has its own. The fans lean by it.
-  const OutlineSegment outline[] = {{Line27, Line31, true},  {Line31, Line32, true},
-                                    {Line32, Line33, true},  {Line33, Line34, false},
-                                    {Line34, Line35, false}, {Line35, Line35, false}};
-  const Single x = Shape1(1).Left + Shape1(1).Width / 2;
-  const Single y = Shape1(1).Top + Shape1(1).Width / 2;
+  const OutlineSegment outline[] = {{slope1, slope2, true},  {slope2, slope3, true},
+                                    {slope3, slope4, true},  {slope4, slope5, false},
+                                    {slope5, slope6, false}, {slope6, slope6, false}};
+  const Single x = shells(1).Left + shells(1).Width / 2;
+  const Single y = shells(1).Top + shells(1).Width / 2;
   for (const OutlineSegment& segment : outline) {
     if (!LiesUnder(segment, x, y)) continue;
-    mImpactSlope = Atn((segment.line.Y1 - segment.line.Y2) / (segment.run.X2 - segment.run.X1));
-    return true;
+    return Atn((segment.line.Y1 - segment.line.Y2) / (segment.run.X2 - segment.run.X1));
   }
-  return false;
+  return std::nullopt;
 }
 
-bool QuintaraForm::StrikesTarget() {
-  return flight.y < 0 && flight.x > Single(mTargetKm * 1000 - 400) &&
-         flight.x < Single(mTargetKm * 1000 + 200);
+bool QuintaraForm::StrikesTarget() const {
+  return flight.y < 0 && flight.x > Single(targetKm_ * 1000 - 400) &&
+         flight.x < Single(targetKm_ * 1000 + 200);
 }
 
 void QuintaraForm::HitTarget() {
-  Label23.Visible = false;
-  if (mDragOn == 0) {
-    Label17.Caption = ToText(Val(Label17.Caption) + 5);
+  bestScore.Visible = false;
+  if (dragIsOn_) {
+    score.Caption = ToText(Val(score.Caption) + 10);
+    dragIsOn_ = false;
   } else {
-    Label17.Caption = ToText(Val(Label17.Caption) + 10);
-    mDragOn = 0;
+    score.Caption = ToText(Val(score.Caption) + 5);
   }
 
-  if (Label25.Caption == "5") {
+  if (shotsFired.Caption == "5") {
     ShowBonusHeader(bonusNextStep);
-    cmdAdvanced.Caption = "OFF";
-    cmdAdvanced.Enabled = false;
-    Label15.Caption = "0";
-    mBonusShot = 1;
+    dragButton.Caption = "OFF";
+    dragButton.Enabled = false;
+    dragConstant.Caption = "0";
+    bonusShot_ = true;
   } else {
     ShowNormalHeader();
   }
-  if (Val(Label25.Caption) == 6 && Val(Label17.Caption) >= 35 && mBonusShot == 1) OfferListOfMasters();
+  if (Val(shotsFired.Caption) == 6 && Val(score.Caption) >= 35 && bonusShot_) OfferListOfMasters();
 
-  Line8.Visible = false;
-  Line9.Visible = false;
-  Label11.Visible = false;
-  Image5.Visible = false;
-  Image7.Enabled = false;
-  Image8.Visible = true;
-  Image8.Left = Image5.Left;
+  rangeBar.Visible = false;
+  heightBar.Visible = false;
+  targetOnScale.Visible = false;
+  targetPicture.Visible = false;
+  fireButton.Enabled = false;
+  flames.Visible = true;
+  flames.Left = targetPicture.Left;
   shared.PlayUnlessSoundIsOff(scene(), "bombex~2.wav");
   ThrowFragments();
 
-  Timer1.Enabled = true;
-  Timer1.Interval = 400;
+  StartFlash();
   StopFlight();
-  tmrExplode.Enabled = true;
+  fragmentTimer.Enabled = true;
 }
 
 void QuintaraForm::OfferListOfMasters() {
-  frmMasters->Show();
-  frmMasters->Picture1.Visible = true;
-  frmMasters->Text1.Visible = true;
-  frmMasters->Text1.SetFocus();
+  masters_->Show();
+  masters_->namePanel.Visible = true;
+  masters_->nameBox.Visible = true;
+  masters_->nameBox.SetFocus();
 }
 
 }  // namespace quintara

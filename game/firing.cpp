@@ -10,93 +10,108 @@ constexpr Colour ringLit = 0xFFFFFF;
 }  // namespace
 
 // Fires whatever is in the gun, also while a shell is in the air: that one is lost and the next one used up.
-void QuintaraForm::Image7_Click() {
-  Shape5.BorderColor = ringAtRest;
-  mShellArmed = 1;
-  Line24.Visible = false;
-  gElevationRad = (Val(Label1.Caption) * 3.1416) / 180;  // 3.1416 is the game's pi
-  gMuzzleVelocity = Val(Label6.Caption);
-  Launch(flight, gMuzzleVelocity, gElevationRad);
-  flight.dt = HScroll1.Value * 0.059;
-  tmrShell.Interval = 17;
-  tmrShell.Enabled = true;
+void QuintaraForm::Fire() {
+  fireRing.BorderColor = ringAtRest;
+  shellIsArmed_ = true;
+  sightLine.Visible = false;
+  TakeLaying();
+  Launch(flight, muzzleVelocity_, muzzleElevation_);
+  flight.dt = flightTimeBar.Value * finestStep;
+  shellTimer.Interval = 17;
+  shellTimer.Enabled = true;
 
-  Line12.Visible = true;
-  Timer1.Interval = 400;
-  Timer1.Enabled = true;
+  muzzleFlash.Visible = true;
+  StartFlash();
   shared.PlayUnlessSoundIsOff(scene(), "biggun.wav");
 
   CountShell();
-  if (Val(Label25.Caption) == 5) PrepareBonusShot();
+  if (Val(shotsFired.Caption) == 5) bonusShot_ = true;
+}
+
+void QuintaraForm::StartFlash() {
+  flashTimer.Interval = 400;
+  flashTimer.Enabled = true;
 }
 
 void QuintaraForm::CountShell() {
-  if (Label21.Caption == "6") {
+  if (shellInGun.Caption == "6") {
     FireBonusShell();
     return;
   }
-  const double shell = Val(Label21.Caption);
-  for (std::int16_t n = 5; n >= 1; --n) {
-    if (shell != n) continue;
-    Label21.Caption = ToText(n + 1);
-    Label25.Caption = ToText(n);
-    Shape6(static_cast<std::int16_t>(5 - n)).Visible = false;  // the marks go from the top of the column down
+  // The marks go from the top of the column down. A caption that names no shell counts none.
+  const double inGun = Val(shellInGun.Caption);
+  for (std::int16_t shell = 1, mark = shellMarkCount - 1; mark >= 0; ++shell, --mark) {
+    if (shell != inGun) continue;
+    shellInGun.Caption = ToText(shell + 1);
+    shotsFired.Caption = ToText(shell);
+    shellMarks(mark).Visible = false;
   }
 }
 
 void QuintaraForm::FireBonusShell() {
-  Label21.Visible = false;
-  Label25.Caption = "6";
-  Image6.Visible = false;
-  Picture5.Cls();
-  Picture11.Cls();
-  cmdReset.Enabled = true;
-  Label4.Caption = " Click Reset to start a new game";
-  Image7.Enabled = false;
-  VScroll1.Enabled = false;
-  VScroll2.Enabled = false;
-  cmdAdvanced.Enabled = false;
+  shellInGun.Visible = false;
+  shotsFired.Caption = "6";
+  shellGauge.Visible = false;
+  profile.Cls();
+  mountain.Cls();
+  resetButton.Enabled = true;
+  advice.Caption = " Click Reset to start a new game";
+  LockGun();
 }
 
-void QuintaraForm::tmrShell_Timer() {
-  if (mShellArmed != 1) return;
+void QuintaraForm::LockGun() {
+  fireButton.Enabled = false;
+  elevationBar.Enabled = false;
+  velocityBar.Enabled = false;
+  dragButton.Enabled = false;
+}
+
+void QuintaraForm::FlyShell() {
+  if (!shellIsArmed_) return;
   if (flight.y < 0) {
     // The shell is under ground and nothing was hit: the flight ends, but this tick still runs to its end and
     // may hit something after all.
     StopFlight();
-    Shape1(0).Visible = false;
+    shells(0).Visible = false;
   }
-  flight.dt = HScroll1.Value * 0.059;
-  BallisticStep(flight, Val(Label15.Caption));
+  flight.dt = flightTimeBar.Value * finestStep;
+  BallisticStep(flight, Val(dragConstant.Caption));
   MoveShell();
   TestForImpact();
 }
 
-// The shell has two markers, since a picture box hides what lies behind it: Shape1(0) in the open, and
-// Shape1(1) inside the mountain's box.
+// The shell has two markers, since a picture box hides what lies behind it: shells(0) in the open, and
+// shells(1) inside the mountain's box.
 void QuintaraForm::MoveShell() {
-  Shape1(0).Left = flight.x * 0.438;
-  Shape1(0).Top = 9250 - flight.y * 0.55;
-  Shape1(1).Visible = true;
-  Shape1(1).Left = flight.x * 0.438 - 790;
-  Shape1(1).Top = (mProfileHeight + 640) - flight.y * 0.55;
+  const Place inProfile = InProfile(flight.x, flight.y), inMountain = InMountain(flight.x, flight.y);
+  shells(0).Left = inProfile.x;
+  shells(0).Top = inProfile.y;
+  shells(1).Visible = true;
+  shells(1).Left = inMountain.x;
+  shells(1).Top = inMountain.y;
 
   // The range bar grows to the end; the height bar stays where the shell was highest.
-  Line8.X1 = Shape1(0).Left + 380;
-  Line8.Visible = true;
-  Line9.Visible = true;
-  if (flight.vy > 0) Line9.Y2 = Shape1(0).Top;
-  Shape1(0).Visible = true;
+  rangeBar.X1 = shells(0).Left + 380;
+  rangeBar.Visible = true;
+  heightBar.Visible = true;
+  if (flight.vy > 0) heightBar.Y2 = shells(0).Top;
+  shells(0).Visible = true;
 }
 
-void QuintaraForm::Image7_MouseMove() {
-  Shape5.BorderColor = ringLit;
+// Where the marker of a shell stands that is at this place, in metres: in the profile, and in the mountain's
+// box, which has its own origin.
+QuintaraForm::Place QuintaraForm::InProfile(Single x, Single y) {
+  return {x * 0.438, 9250 - y * 0.55};
 }
-void QuintaraForm::Picture8_MouseMove() {
-  Shape5.BorderColor = ringAtRest;
+QuintaraForm::Place QuintaraForm::InMountain(Single x, Single y) const {
+  return {x * 0.438 - 790, mountainHeight_ + 640 - y * 0.55};
 }
-void QuintaraForm::cmdReset_MouseMove() {
-  Shape5.BorderColor = ringAtRest;
+
+void QuintaraForm::LightRing() {
+  fireRing.BorderColor = ringLit;
+}
+void QuintaraForm::DimRing() {
+  fireRing.BorderColor = ringAtRest;
 }
 
 }  // namespace quintara

@@ -1,60 +1,53 @@
 #include "game/quintara.h"
-#include "numbers/numbers.h"
 #include "scene/scene.h"
 
 namespace quintara {
 
-void QuintaraForm::cmdHelp_Click() {
-  PopupMenu(mnuHelp, 13200, 6680);
+void QuintaraForm::BindDocuments() {
+  const struct {
+    Menu& item;
+    HelpTopic topic;
+  } rows[] = {{introductionItem, HelpTopic::Introduction},
+              {scenarioItem, HelpTopic::Scenario},
+              {rulesItem, HelpTopic::Rules},
+              {physicsItem, HelpTopic::Physics},
+              {codeItem, HelpTopic::Code},
+              {printingItem, HelpTopic::Printing}};
+  for (const auto& row : rows) row.item.Click.Bind([this, topic = row.topic] { documents_->Open(topic); });
 }
 
-void QuintaraForm::mnuIntro_Click() {
-  Analysis->Open(HelpTopic::Introduction);
-}
-void QuintaraForm::mnuScenario_Click() {
-  Analysis->Open(HelpTopic::Scenario);
-}
-void QuintaraForm::mnuRules_Click() {
-  Analysis->Open(HelpTopic::Rules);
-}
-void QuintaraForm::mnuPhysics_Click() {
-  Analysis->Open(HelpTopic::Physics);
-}
-void QuintaraForm::mnuCodeSegment_Click() {
-  Analysis->Open(HelpTopic::Code);
-}
-void QuintaraForm::mnuPrint_Click() {
-  Analysis->Open(HelpTopic::Printing);
+void QuintaraForm::OpenHelpMenu() {
+  PopupMenu(helpMenu, 13200, 6680);
 }
 
-void QuintaraForm::mnuMasters_Click() {
-  frmMasters->Show();
-  frmMasters->Left = (scene().ScreenWidth() - frmMasters->Width) / 2;
-  frmMasters->Top = (scene().ScreenHeight() - frmMasters->Height) / 2;
+void QuintaraForm::ShowMasters() {
+  masters_->Show();
+  masters_->Left = (scene().ScreenWidth() - masters_->Width) / 2;
+  masters_->Top = (scene().ScreenHeight() - masters_->Height) / 2;
 }
 
-void QuintaraForm::mnuAbout_Click() {
-  About->Show();
+void QuintaraForm::ShowAbout() {
+  about_->Show();
 }
 
-void QuintaraForm::mnuReadme_Click() {
-  txtReadme.Visible = true;
-  cmdCloseReadme.Visible = true;
-  txtReadme.Width = 8000;
-  txtReadme.Height = 6000;
-  txtReadme.Left = 1000;
-  txtReadme.Top = 400;
-  cmdCloseReadme.Left = 8000;
-  cmdCloseReadme.Top = 6000;
-  ReadDocumentInto(txtReadme, shared.programFolder, "Readme.rtf");
+void QuintaraForm::OpenReadme() {
+  readme.Visible = true;
+  closeReadmeButton.Visible = true;
+  readme.Width = 8000;
+  readme.Height = 6000;
+  readme.Left = 1000;
+  readme.Top = 400;
+  closeReadmeButton.Left = 8000;
+  closeReadmeButton.Top = 6000;
+  ReadDocumentInto(readme, shared.programFolder, "Readme.rtf");
 }
 
-void QuintaraForm::cmdCloseReadme_Click() {
-  txtReadme.Visible = false;
-  cmdCloseReadme.Visible = false;
+void QuintaraForm::CloseReadme() {
+  readme.Visible = false;
+  closeReadmeButton.Visible = false;
 }
 
-void QuintaraForm::mnuUninstall_Click() {
+void QuintaraForm::ExplainUninstalling() {
   constexpr std::int32_t okWithExclamation = 48;
   scene().MsgBox(
       "To uninstall Quintara and all it's associated files from your computer, simply double click the "

@@ -13,158 +13,164 @@ constexpr std::string_view bonusLayingText =
 
 }  // namespace
 
-void QuintaraForm::VScroll1_Change() {
+void QuintaraForm::LayElevation() {
   LayGun(Laying::Elevation);
 }
-void QuintaraForm::VScroll2_Change() {
+void QuintaraForm::LayVelocity() {
   LayGun(Laying::Velocity);
 }
 
 // What every change of the laying does. A change of the elevation takes the velocity from its caption; one of
 // the velocity takes the elevation from its scroll bar.
 void QuintaraForm::LayGun(Laying changed) {
-  Image7.Enabled = true;
+  fireButton.Enabled = true;
   TakeElevation();
-  Line8.Visible = false;
-  Line9.Visible = false;
+  rangeBar.Visible = false;
+  heightBar.Visible = false;
   DrawBarrel();
-  DrawSightLines();
-  if (mBonusShot == 0) Line24.Visible = true;
+  DrawFlashAndSightLine();
+  if (!bonusShot_) sightLine.Visible = true;
   if (changed == Laying::Velocity) TakeVelocity();
-  if (mBonusShot == 1) ClearProfileForPlot();
+  if (bonusShot_) ClearProfileForPlot();
 
-  gElevationRad = Val(Label1.Caption) * 3.1416 / 180;
-  gMuzzleVelocity = Val(Label6.Caption);
-  Preview(HScroll1.Value * 0.059, PreviewOf::Laying);
+  TakeLaying();
+  Preview(flightTimeBar.Value * finestStep, PreviewOf::Laying);
 }
 
 void QuintaraForm::TakeElevation() {
-  gElevationScroll = VScroll1.Value.Get();
-  Label1.Caption = ToText(Single(370 - gElevationScroll));
-  gBarrelRad = Val(Label1.Caption) * 3.1416 / 180;
+  elevation.Caption = ToText(370 - elevationBar.Value);
+}
+
+// In radians, by the caption.
+Single QuintaraForm::LaidElevation() const {
+  return Val(elevation.Caption) * pi / 180;
+}
+
+// What is fired or previewed is what the captions say.
+void QuintaraForm::TakeLaying() {
+  muzzleElevation_ = LaidElevation();
+  muzzleVelocity_ = Val(velocity.Caption);
 }
 
 void QuintaraForm::DrawBarrel() {
-  Line16.X1 = Cos(gBarrelRad) * 100 + 110;
-  Line16.Y1 = 530 - Sin(gBarrelRad) * 100;
-  Line16.X2 = Cos(gBarrelRad) * 300 + 110;
-  Line16.Y2 = 530 - Sin(gBarrelRad) * 300;
+  const Single angle = LaidElevation();
+  barrel.X1 = Cos(angle) * 100 + 110;
+  barrel.Y1 = 530 - Sin(angle) * 100;
+  barrel.X2 = Cos(angle) * 300 + 110;
+  barrel.Y2 = 530 - Sin(angle) * 300;
 }
 
-void QuintaraForm::DrawSightLines() {
-  Line12.X1 = Cos(gBarrelRad) * 400 + 110;
-  Line12.Y1 = 530 - Sin(gBarrelRad) * 400;
-  Line12.X2 = Line16.X2;
-  Line12.Y2 = Line16.Y2;
-  Line24.X2 = Cos(gBarrelRad) * 1000;
-  Line24.Y2 = 9200 - Sin(gBarrelRad) * 1000;
+void QuintaraForm::DrawFlashAndSightLine() {
+  const Single angle = LaidElevation();
+  muzzleFlash.X1 = Cos(angle) * 400 + 110;
+  muzzleFlash.Y1 = 530 - Sin(angle) * 400;
+  muzzleFlash.X2 = barrel.X2;
+  muzzleFlash.Y2 = barrel.Y2;
+  sightLine.X2 = Cos(angle) * 1000;
+  sightLine.Y2 = 9200 - Sin(angle) * 1000;
 }
 
 // The shell picture is a gauge of the velocity: it grows upwards from its foot at 870.
 void QuintaraForm::TakeVelocity() {
-  Label6.Caption = ToText(VScroll2.Value);
-  Image6.Height = Val(Label6.Caption) + 330 - 250;
-  Image6.Top = 870 - Image6.Height;
+  velocity.Caption = ToText(velocityBar.Value);
+  shellGauge.Height = Val(velocity.Caption) + 330 - 250;
+  shellGauge.Top = 870 - shellGauge.Height;
 }
 
 void QuintaraForm::ClearProfileForPlot() {
-  Picture10.Top = 0;
-  Label8.Visible = false;
-  Label26.Visible = false;
+  backdrop.Top = 0;
+  rangeUnit.Visible = false;
+  heightUnit.Visible = false;
   // Element 0 of each scale stays. Where a Reset has unloaded the others, none is left to hide.
-  const auto hide = [](auto& elements, std::int16_t i) {
-    if (elements.Has(i)) elements(i).Visible = false;
+  const auto hide = [](auto& elements, std::int16_t km) {
+    if (elements.Has(km)) elements(km).Visible = false;
   };
-  for (gLoopIndex = 1; gLoopIndex <= 33; ++gLoopIndex) {
-    hide(Label3, gLoopIndex);
-    hide(Line10, gLoopIndex);
+  for (std::int16_t km = 1; km <= rangeScaleEnd; ++km) {
+    hide(rangeNumbers, km);
+    hide(rangeTicks, km);
   }
-  for (gLoopIndex = 1; gLoopIndex <= 16; ++gLoopIndex) {
-    hide(Label7, gLoopIndex);
-    hide(Line11, gLoopIndex);
+  for (std::int16_t km = 1; km <= heightScaleEnd; ++km) {
+    hide(heightNumbers, km);
+    hide(heightTicks, km);
   }
+  // Nothing moves by this: only the numbers change by which the places of the form's own boxes are told from
+  // here on.
   ScaleMode = 3;
   ScaleWidth = 15225;
   ScaleHeight = 11100;
-  Picture5.DrawWidth = 2;
-  Picture5.Cls();
-  Picture11.DrawWidth = 2;
-  Picture11.Cls();
+  profile.DrawWidth = 2;
+  profile.Cls();
+  mountain.DrawWidth = 2;
+  mountain.Cls();
 }
 
 // Flies the shell that is laid, unseen, for five steps to each m/s of its velocity. Nothing ends it at the
 // ground: it leaves the flight variables far below, and only the time caption and the plot stop following
 // there.
 void QuintaraForm::Preview(double dt, PreviewOf previewed) {
-  const bool plots = previewed == PreviewOf::Laying && mBonusShot == 1;
-  Launch(flight, gMuzzleVelocity, gElevationRad);
+  const bool plots = previewed == PreviewOf::Laying && bonusShot_;
+  Launch(flight, muzzleVelocity_, muzzleElevation_);
   flight.dt = dt;
-  gStepCount = 1;
   Flight shell = flight;
-  const double k = Val(Label15.Caption);
+  const double k = Val(dragConstant.Caption);
   Single lastAboveGround = -1;
-  const std::int16_t end = EndOfSteps(gMuzzleVelocity);
-  for (; gStepCount < end; ++gStepCount) {
+  const std::int16_t end = EndOfSteps(muzzleVelocity_);
+  for (std::int16_t step = 1; step < end; ++step) {
     BallisticStep(shell, k);
     if (shell.y > 0) lastAboveGround = shell.time;
     if (plots) PlotShell(shell.x, shell.y);
   }
   flight = shell;
   if (lastAboveGround >= 0) {
-    if (previewed == PreviewOf::Laying) mImpactSeconds = Int(lastAboveGround);
+    if (previewed == PreviewOf::Laying) impactSeconds_ = Int(lastAboveGround);
     ShowTimeToImpact(lastAboveGround);
   }
-  if (plots && gStepCount > 1) Label4.Caption = bonusLayingText;
+  if (plots && end > 1) advice.Caption = bonusLayingText;
 }
 
 void QuintaraForm::ShowTimeToImpact(Single seconds) {
-  Label31.Caption = std::string(timeCaption) + ToText(Single(Int(seconds))) + " (sec)";
+  timeToImpact.Caption = std::string(timeCaption) + ToText(Single(Int(seconds))) + " (sec)";
 }
 
 // Marks the two places where the shell's markers would stand.
 void QuintaraForm::PlotShell(Single x, Single y) {
-  Picture5.PSet(x * 0.438, 9250 - y * 0.55, QBColor(6));
-  Picture11.PSet(x * 0.438 - 790, mProfileHeight + 640 - y * 0.55, QBColor(6));
+  const Place inProfile = InProfile(x, y), inMountain = InMountain(x, y);
+  profile.PSet(inProfile.x, inProfile.y, QBColor(6));
+  mountain.PSet(inMountain.x, inMountain.y, QBColor(6));
 }
 
 // Only the caption: the new setting counts from the next preview or flight step on.
-void QuintaraForm::HScroll1_Change() {
-  ShowTimeToImpact(mImpactSeconds);
+void QuintaraForm::RepeatTimeToImpact() {
+  ShowTimeToImpact(impactSeconds_);
 }
 
-void QuintaraForm::cmdAdvanced_Click() {
-  if (mDragOn == 0) {
-    TurnDragOn();
-  } else {
+void QuintaraForm::SwitchDrag() {
+  if (dragIsOn_) {
     TurnDragOff();
+  } else {
+    TurnDragOn();
   }
 }
 
 void QuintaraForm::TurnDragOn() {
-  mDragOn = 1;
+  dragIsOn_ = true;
   scene().Randomize();
-  Label15.Caption = ToText(Single(Int(scene().Rnd() * 10 + 1) / 1000));
-  cmdAdvanced.Caption = "ON";
-  cmdAdvanced.Enabled = false;
-  Label23.Caption = ToText(Val(Label23.Caption) + 5);
-  // The finest step, whatever HScroll1 says, and the velocity and elevation as they were left.
-  Preview(0.059, PreviewOf::Drag);
+  dragConstant.Caption = ToText(Single(Int(scene().Rnd() * 10 + 1) / 1000));
+  dragButton.Caption = "ON";
+  dragButton.Enabled = false;
+  bestScore.Caption = ToText(Val(bestScore.Caption) + 5);
+  // The finest step, whatever flightTimeBar says, and the velocity and elevation as they were left.
+  Preview(finestStep, PreviewOf::Drag);
 }
 
 // Comes about only where a Reset has enabled the button of a drag that was turned on among the fragments of a
 // hit.
 void QuintaraForm::TurnDragOff() {
   ShowTimeToImpact(flight.time);
-  cmdAdvanced.Caption = "OFF";
-  mDragOn = 0;
-  Label15.Caption = "0";
-  Label23.Caption = ToText(Val(Label23.Caption) - (5 - Val(Label25.Caption)) * 5);
-}
-
-void QuintaraForm::PrepareBonusShot() {
-  mBonusShot = 1;
-  gElevationRad = Val(Label1.Caption) * 3.1416 / 180;
-  gMuzzleVelocity = Val(Label6.Caption);
+  dragButton.Caption = "OFF";
+  dragIsOn_ = false;
+  dragConstant.Caption = "0";
+  bestScore.Caption = ToText(Val(bestScore.Caption) - (5 - Val(shotsFired.Caption)) * 5);
 }
 
 }  // namespace quintara

@@ -4,126 +4,129 @@
 namespace quintara {
 
 // Opens the profile between gun and target. The further the target, the taller the mountain.
-void QuintaraForm::cmdMagnify_Click() {
-  Image7.Enabled = false;
-  Label4.Caption =
+void QuintaraForm::Magnify() {
+  fireButton.Enabled = false;
+  advice.Caption =
       " Adjust Muzzle Elevation Angle       and Muzzle Velocity. If Drag is       desired, click the OFF "
       "button.        Then, click the red Fire button.";
   ShowPanels();
-  ShowMaximumScore();
+  ShowBestScore();
   // The setting of the last target. A record that is no number, or none in range, counts as the nearest
   // bound.
   if (const auto record = scene().files().ReadRecord(shared.programFolder + "extra.txt", 5)) {
-    HScroll1.Value = CInt(Val(*record));
+    flightTimeBar.Value = CInt(Val(*record));
   }
 
   RaiseTerrain();
   LayOutline();
-  Image5.Left = mTargetKm * 446 - 390;
-  Image5.Visible = true;
-  Label11.Left = Image5.Left + 340;
-  Label11.Visible = true;
+  targetPicture.Left = targetKm_ * 446 - 390;
+  targetPicture.Visible = true;
+  targetOnScale.Left = targetPicture.Left + 340;
+  targetOnScale.Visible = true;
   BuildScales();
 
   TakeElevation();
   DrawBarrel();
-  if (mBonusShot == 1) ShowBonusHeader(bonusNextStep);
-  if (mBonusShot == 0) ShowNormalHeader();
+  if (bonusShot_) {
+    ShowBonusHeader(bonusNextStep);
+  } else {
+    ShowNormalHeader();
+  }
 }
 
 void QuintaraForm::ShowPanels() {
-  Image11.Visible = true;
-  for (Label* label : {&Label12, &Label17, &Label22, &Label23, &Label25}) label->Visible = true;
-  Line19.Visible = true;
-  Line20.Visible = true;
-  for (PictureBox* panel : {&Picture5, &Picture6, &Picture7, &Picture8}) panel->Visible = true;
-  cmdAdvanced.Visible = true;
-  if (Val(Label21.Caption) == 6) cmdAdvanced.Enabled = false;  // no drag on the sixth shell
-  cmdMagnify.Enabled = false;
-  cmdSearch.Enabled = false;
-  Image6.Visible = true;
-  Label21.Visible = true;
+  consoleStrip.Visible = true;
+  for (Label* label : {&scoreBoard, &score, &scoreHeadings, &bestScore, &shotsFired}) label->Visible = true;
+  scoreDivider.Visible = true;
+  shotsDivider.Visible = true;
+  for (PictureBox* panel : {&profile, &rangeScale, &heightScale, &firingPanel}) panel->Visible = true;
+  dragButton.Visible = true;
+  if (Val(shellInGun.Caption) == 6) dragButton.Enabled = false;  // no drag on the sixth shell
+  magnifyButton.Enabled = false;
+  searchButton.Enabled = false;
+  shellGauge.Visible = true;
+  shellInGun.Visible = true;
 }
 
-void QuintaraForm::ShowMaximumScore() {
-  const double shell = Val(Label21.Caption);
-  const double actual = Val(Label17.Caption);
+void QuintaraForm::ShowBestScore() {
+  const double shell = Val(shellInGun.Caption);
+  const double actual = Val(score.Caption);
   if (shell <= 5) {
-    Label23.Caption = ToText(actual + 50 - Val(Label25.Caption) * 10);
+    bestScore.Caption = ToText(actual + 50 - Val(shotsFired.Caption) * 10);
   } else if (shell == 6) {
-    Label23.Caption = ToText(actual + 5);
+    bestScore.Caption = ToText(actual + 5);
   }
 }
 
 void QuintaraForm::RaiseTerrain() {
-  Picture10.Top = 480;
-  Picture10.Height = (mTargetKm + 18) / 0.0125;
-  Image9.Height = (mTargetKm + 18) / 0.0125;
-  mProfileHeight = CInt(mTargetKm * 136 - 500);
-  Picture11.Height = mProfileHeight;
-  Image1.Height = mProfileHeight + 20;
-  Picture11.Top = 8640 - Picture11.Height;  // the mountain's foot stands at 8640 for every range
+  backdrop.Top = 480;
+  backdrop.Height = (targetKm_ + 18) / 0.0125;
+  backdropPicture.Height = (targetKm_ + 18) / 0.0125;
+  mountainHeight_ = CInt(targetKm_ * 136 - 500);
+  mountain.Height = mountainHeight_;
+  mountainPicture.Height = mountainHeight_ + 20;
+  mountain.Top = 8640 - mountain.Height;  // the mountain's foot stands at 8640 for every range
 }
 
 // The outline that the collision reads. Neighbouring segments overlap a little along the ground; that is
 // meant.
 void QuintaraForm::LayOutline() {
-  Line27.X1 = Image1.Left;
-  Line27.Y1 = Image1.Height + Image1.Top;
-  Line27.Y2 = mProfileHeight * 0.7;
-  Line31.Y1 = Line27.Y2;
-  Line31.Y2 = mProfileHeight * 0.2;
-  Line32.Y1 = Line31.Y2;
-  Line32.Y2 = mProfileHeight * 0.12;
-  Line33.Y1 = Line32.Y2;
-  Line33.Y2 = mProfileHeight * 0.2;
-  Line34.Y1 = Line33.Y2;
-  Line34.Y2 = mProfileHeight * 0.75;
-  Line35.Y1 = Line34.Y2;
-  Line35.X2 = Image1.Width + Image1.Left;
-  Line35.Y2 = Image1.Height + Image1.Top;
+  slope1.X1 = mountainPicture.Left;
+  slope1.Y1 = mountainPicture.Height + mountainPicture.Top;
+  slope1.Y2 = mountainHeight_ * 0.7;
+  slope2.Y1 = slope1.Y2;
+  slope2.Y2 = mountainHeight_ * 0.2;
+  slope3.Y1 = slope2.Y2;
+  slope3.Y2 = mountainHeight_ * 0.12;
+  slope4.Y1 = slope3.Y2;
+  slope4.Y2 = mountainHeight_ * 0.2;
+  slope5.Y1 = slope4.Y2;
+  slope5.Y2 = mountainHeight_ * 0.75;
+  slope6.Y1 = slope5.Y2;
+  slope6.X2 = mountainPicture.Width + mountainPicture.Left;
+  slope6.Y2 = mountainPicture.Height + mountainPicture.Top;
 }
 
 void QuintaraForm::BuildScales() {
-  Label8.Visible = true;
-  Label3(0).Visible = true;
-  Label7(0).Visible = true;
-  Label26.Visible = true;
-  for (gLoopIndex = 1; gLoopIndex <= 33; ++gLoopIndex) {
-    Label3.Load(gLoopIndex);
-    Line10.Load(gLoopIndex);
-    Label3(gLoopIndex).Left = gLoopIndex * 438 + 240;
-    Label3(gLoopIndex).Caption = ToText(gLoopIndex);
-    Label3(gLoopIndex).Visible = true;
-    Line10(gLoopIndex).X1 = gLoopIndex * 438 + 350;
-    Line10(gLoopIndex).X2 = gLoopIndex * 438 + 350;
-    Line10(gLoopIndex).Visible = true;
+  rangeUnit.Visible = true;
+  rangeNumbers(0).Visible = true;
+  heightNumbers(0).Visible = true;
+  heightUnit.Visible = true;
+  for (std::int16_t km = 1; km <= rangeScaleEnd; ++km) {
+    rangeNumbers.Load(km);
+    rangeTicks.Load(km);
+    rangeNumbers(km).Left = km * 438 + 240;
+    rangeNumbers(km).Caption = ToText(km);
+    rangeNumbers(km).Visible = true;
+    rangeTicks(km).X1 = km * 438 + 350;
+    rangeTicks(km).X2 = km * 438 + 350;
+    rangeTicks(km).Visible = true;
   }
-  for (gLoopIndex = 1; gLoopIndex <= 16; ++gLoopIndex) {
-    Label7.Load(gLoopIndex);
-    Line11.Load(gLoopIndex);
-    Label7(gLoopIndex).Top = 9100 - gLoopIndex * 542;
-    Label7(gLoopIndex).Caption = ToText(gLoopIndex);
-    Label7(gLoopIndex).Visible = true;
-    Line11(gLoopIndex).Y1 = 9200 - gLoopIndex * 542;
-    Line11(gLoopIndex).Y2 = 9200 - gLoopIndex * 542;
-    Line11(gLoopIndex).Visible = true;
+  for (std::int16_t km = 1; km <= heightScaleEnd; ++km) {
+    heightNumbers.Load(km);
+    heightTicks.Load(km);
+    heightNumbers(km).Top = 9100 - km * 542;
+    heightNumbers(km).Caption = ToText(km);
+    heightNumbers(km).Visible = true;
+    heightTicks(km).Y1 = 9200 - km * 542;
+    heightTicks(km).Y2 = 9200 - km * 542;
+    heightTicks(km).Visible = true;
   }
-  Line10(0).Visible = true;
-  Line11(0).Visible = true;
+  rangeTicks(0).Visible = true;
+  heightTicks(0).Visible = true;
 }
 
 void QuintaraForm::ShowBonusHeader(std::string_view nextStep) {
-  Label24.BackColor = 0x80FFFF;
-  Label24.ForeColor = 0x80000003;
-  Label24.Caption = "Bonus Shot using Advanced Trajectory Simulator";
-  Label4.Caption = nextStep;
+  header.BackColor = 0x80FFFF;
+  header.ForeColor = 0x80000003;
+  header.Caption = "Bonus Shot using Advanced Trajectory Simulator";
+  advice.Caption = nextStep;
 }
 
 void QuintaraForm::ShowNormalHeader() {
-  Label24.BackColor = 0x80000003;
-  Label24.ForeColor = 0x80FFFF;
-  Label24.Caption = "Terrain Profile and Ballistic Simulator";
+  header.BackColor = 0x80000003;
+  header.ForeColor = 0x80FFFF;
+  header.Caption = "Terrain Profile and Ballistic Simulator";
 }
 
 }  // namespace quintara

@@ -4,47 +4,42 @@ namespace quintara {
 
 QuintaraForm::QuintaraForm(Scene& owner, const SideForms& sideForms)
     : QuintaraControls(owner),
-      projectile(sideForms.projectile),
-      frmTrajectory(sideForms.frmTrajectory),
-      frmMasters(sideForms.frmMasters),
-      Analysis(sideForms.Analysis),
-      About(sideForms.About) {
-  Bind(Load, &QuintaraForm::Form_Load);
-  Bind(QueryUnload, &QuintaraForm::Form_QueryUnload);
-  Bind(cmdReset.Click, &QuintaraForm::cmdReset_Click);
-  Bind(cmdReset.MouseMove, &QuintaraForm::cmdReset_MouseMove);
-  Bind(cmdSound.Click, &QuintaraForm::cmdSound_Click);
-  Bind(cmdCancel.Click, &QuintaraForm::cmdCancel_Click);
+      bench_(sideForms.bench),
+      simulator_(sideForms.simulator),
+      masters_(sideForms.masters),
+      documents_(sideForms.documents),
+      about_(sideForms.about) {
+  Bind(Load, &QuintaraForm::SetUp);
+  Bind(QueryUnload, &QuintaraForm::CloseSideForms);
+  Bind(resetButton.Click, &QuintaraForm::Reset);
+  Bind(soundButton.Click, &QuintaraForm::SwitchSound);
+  Bind(cancelButton.Click, &QuintaraForm::LeaveGame);
 
-  Bind(cmdSearch.Click, &QuintaraForm::cmdSearch_Click);
-  Bind(tmrBounce.Tick, &QuintaraForm::tmrBounce_Timer);
-  Bind(tmrBounce2.Tick, &QuintaraForm::tmrBounce2_Timer);
-  Bind(cmdMagnify.Click, &QuintaraForm::cmdMagnify_Click);
+  Bind(searchButton.Click, &QuintaraForm::Search);
+  Bind(driftRightTimer.Tick, &QuintaraForm::DriftRight);
+  Bind(driftLeftTimer.Tick, &QuintaraForm::DriftLeft);
+  Bind(magnifyButton.Click, &QuintaraForm::Magnify);
 
-  Bind(VScroll1.Change, &QuintaraForm::VScroll1_Change);
-  Bind(VScroll2.Change, &QuintaraForm::VScroll2_Change);
-  Bind(HScroll1.Change, &QuintaraForm::HScroll1_Change);
-  Bind(cmdAdvanced.Click, &QuintaraForm::cmdAdvanced_Click);
+  Bind(elevationBar.Change, &QuintaraForm::LayElevation);
+  Bind(velocityBar.Change, &QuintaraForm::LayVelocity);
+  Bind(flightTimeBar.Change, &QuintaraForm::RepeatTimeToImpact);
+  Bind(dragButton.Click, &QuintaraForm::SwitchDrag);
 
-  Bind(Image7.Click, &QuintaraForm::Image7_Click);
-  Bind(Image7.MouseMove, &QuintaraForm::Image7_MouseMove);
-  Bind(Picture8.MouseMove, &QuintaraForm::Picture8_MouseMove);
-  Bind(tmrShell.Tick, &QuintaraForm::tmrShell_Timer);
-  Bind(Timer1.Tick, &QuintaraForm::Timer1_Timer);
-  Bind(tmrExplode.Tick, &QuintaraForm::tmrExplode_Timer);
+  Bind(fireButton.Click, &QuintaraForm::Fire);
+  Bind(fireButton.MouseMove, &QuintaraForm::LightRing);
+  Bind(firingPanel.MouseMove, &QuintaraForm::DimRing);
+  Bind(resetButton.MouseMove, &QuintaraForm::DimRing);
+  Bind(shellTimer.Tick, &QuintaraForm::FlyShell);
+  Bind(flashTimer.Tick, &QuintaraForm::EndFlash);
+  Bind(fragmentTimer.Tick, &QuintaraForm::FlyFragments);
 
-  Bind(cmdHelp.Click, &QuintaraForm::cmdHelp_Click);
-  Bind(mnuIntro.Click, &QuintaraForm::mnuIntro_Click);
-  Bind(mnuScenario.Click, &QuintaraForm::mnuScenario_Click);
-  Bind(mnuRules.Click, &QuintaraForm::mnuRules_Click);
-  Bind(mnuPhysics.Click, &QuintaraForm::mnuPhysics_Click);
-  Bind(mnuCodeSegment.Click, &QuintaraForm::mnuCodeSegment_Click);
-  Bind(mnuMasters.Click, &QuintaraForm::mnuMasters_Click);
-  Bind(mnuAbout.Click, &QuintaraForm::mnuAbout_Click);
-  Bind(mnuPrint.Click, &QuintaraForm::mnuPrint_Click);
-  Bind(mnuReadme.Click, &QuintaraForm::mnuReadme_Click);
-  Bind(cmdCloseReadme.Click, &QuintaraForm::cmdCloseReadme_Click);
-  Bind(mnuUninstall.Click, &QuintaraForm::mnuUninstall_Click);
+  Bind(helpButton.Click, &QuintaraForm::OpenHelpMenu);
+  BindDocuments();
+  Bind(mastersItem.Click, &QuintaraForm::ShowMasters);
+  Bind(aboutItem.Click, &QuintaraForm::ShowAbout);
+  Bind(readmeItem.Click, &QuintaraForm::OpenReadme);
+  Bind(closeReadmeButton.Click, &QuintaraForm::CloseReadme);
+  Bind(uninstallItem.Click, &QuintaraForm::ExplainUninstalling);
 }
 
 }  // namespace quintara

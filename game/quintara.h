@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string_view>
 
 #include "ballistics/ballistic_step.h"
@@ -14,50 +15,49 @@ namespace quintara {
 
 // The main form, which is the whole game: one source per subject of it.
 //
-// There is no game object. The state of a game is what the captions say (Label21 the shell in the gun,
-// Label25 the shots fired, Label17 and Label23 the scores), which controls are enabled, and the few variables
+// There is no game object. The state of a game is what the captions of shellInGun, shotsFired, score and
+// bestScore (the most that can still be reached) say, which controls are enabled, and the few variables
 // below.
 class QuintaraForm : public QuintaraControls {
  public:
   // The windows that it opens, or closes when it closes.
   struct SideForms {
-    ProjectileForm& projectile;
-    TrajectoryForm& frmTrajectory;
-    MastersForm& frmMasters;
-    AnalysisForm& Analysis;
-    AboutForm& About;
+    ProjectileForm& bench;
+    TrajectoryForm& simulator;
+    MastersForm& masters;
+    AnalysisForm& documents;
+    AboutForm& about;
   };
 
   QuintaraForm(Scene& scene, const SideForms& sideForms);
 
   // What the documents' windows use of this form.
-  MainForm ForDocuments() { return {*this, Label17, Label28, Label29, shared}; }
+  MainForm ForDocuments() { return {*this, score, valleyName, peakName, shared}; }
 
   SharedSettings shared;
 
   // The shell's, the preview's and, with its place in twips, that of the radar's target: each of them sets
-  // what it needs of it afresh when it starts.
+  // what it needs of it afresh when it starts. So a preview while a shell is in the air leaves that shell
+  // deep under ground.
   Flight flight;
-  std::int16_t gLoopIndex = 0;  // counter of the loops over scales and arrays
-  Single gMuzzleVelocity;       // m/s
-  Single gElevationRad;         // elevation of the shot
-  Single gBarrelRad;            // elevation of the drawn barrel
-  Single gElevationScroll;      // VScroll1.Value
-  std::int16_t gStepCount = 0;  // counter of the preview loops
 
  private:
+  static constexpr double pi = 3.1416;  // as the whole game has it: its flights rest on these five figures
+  static constexpr double finestStep = 0.059;  // of a flight, in seconds: at the slowest setting
+  static constexpr std::int16_t scopeRowCount = 4, scopeColumnCount = 6, shellMarkCount = 5;
+  static constexpr std::int16_t rangeScaleEnd = 33, heightScaleEnd = 16;  // km
   static constexpr std::size_t fragmentCount = 5;
   static constexpr std::string_view bonusNextStep =
       " Adjust Muzzle Elevation Angle       and Muzzle Velocity. Then, click     the red Fire button.";
 
   // main_window.cpp
-  void Form_Load();
-  void SetAppFolder();
+  void SetUp();
+  void FindProgramFolder();
   void LayScopeGrid();
-  void DrawFragmentWidths();
+  void RandomizeFragmentWidths();
   void StoreFlightTimeSetting();
   std::array<Shape*, fragmentCount> Fragments() {
-    return {&shpExplode1, &shpExplode2, &shpExplode3, &shpExplode4, &shpExplode5};
+    return {&fragment1, &fragment2, &fragment3, &fragment4, &fragment5};
   }
 
   // radar.cpp
@@ -66,9 +66,9 @@ class QuintaraForm : public QuintaraControls {
     Timer& opposite;   // the one that takes over at the edge
     double direction;  // 1 to the right, -1 to the left
   };
-  void cmdSearch_Click();
-  void tmrBounce_Timer();
-  void tmrBounce2_Timer();
+  void Search();
+  void DriftRight();
+  void DriftLeft();
   void DriftTarget(const Drift& drift);
   void SetTrackSpeed();
   void ShowProfilePicture();
@@ -78,9 +78,9 @@ class QuintaraForm : public QuintaraControls {
   void MeasureRange();
 
   // profile.cpp
-  void cmdMagnify_Click();
+  void Magnify();
   void ShowPanels();
-  void ShowMaximumScore();
+  void ShowBestScore();
   void RaiseTerrain();
   void LayOutline();
   void BuildScales();
@@ -90,38 +90,45 @@ class QuintaraForm : public QuintaraControls {
   // laying.cpp
   enum class Laying { Elevation, Velocity };
   enum class PreviewOf { Laying, Drag };
-  void VScroll1_Change();
-  void VScroll2_Change();
-  void HScroll1_Change();
-  void cmdAdvanced_Click();
+  void LayElevation();
+  void LayVelocity();
   void LayGun(Laying changed);
   void TakeElevation();
   void TakeVelocity();
+  Single LaidElevation() const;
+  void TakeLaying();
   void DrawBarrel();
-  void DrawSightLines();
+  void DrawFlashAndSightLine();
   void ClearProfileForPlot();
   void Preview(double dt, PreviewOf previewed);
-  void ShowTimeToImpact(Single seconds);
   void PlotShell(Single x, Single y);
+  void ShowTimeToImpact(Single seconds);
+  void RepeatTimeToImpact();
+  void SwitchDrag();
   void TurnDragOn();
   void TurnDragOff();
-  void PrepareBonusShot();
 
   // firing.cpp
-  void Image7_Click();
-  void tmrShell_Timer();
+  struct Place {
+    double x, y;
+  };
+  void Fire();
+  void StartFlash();
   void CountShell();
   void FireBonusShell();
+  void LockGun();
+  void FlyShell();
   void MoveShell();
-  void Image7_MouseMove();
-  void Picture8_MouseMove();
-  void cmdReset_MouseMove();
+  static Place InProfile(Single x, Single y);
+  Place InMountain(Single x, Single y) const;
+  void LightRing();
+  void DimRing();
 
   // collision.cpp
   void TestForImpact();
-  bool StrikesFoot();
-  bool StrikesOutline();
-  bool StrikesTarget();
+  bool StrikesFoot() const;
+  std::optional<Single> SlopeStruck() const;
+  bool StrikesTarget() const;
   void HitTarget();
   void OfferListOfMasters();
 
@@ -131,73 +138,66 @@ class QuintaraForm : public QuintaraControls {
     double right, down;  // where it points to from the impact, twips
   };
   struct BurstRule {
-    std::string_view nextStep;  // what Label4 says after the fifth shell's burst
+    std::string_view nextStep;  // the advice after the fifth shell's burst
     bool restoresHeader;        // whether the normal header comes back after any other
     Shape& marker;
     double impactY;
     std::array<Ray, 3> rays;  // in the order in which they are drawn
   };
-  void BurstOnProfile();
+  void BurstOnSlope(double angle);
   void BurstOnGround();
-  void BurstOnMountainFace();
+  void BurstOnFoot();
   std::array<Ray, 3> LevelFan();
   void Burst(const BurstRule& rule);
   void ChargeMiss();
   void StopFlight();
-  void Timer1_Timer();
+  void EndFlash();
   void ThrowFragments();
-  void tmrExplode_Timer();
+  void FlyFragments();
   void MoveFragment(std::size_t i);
 
   // states.cpp
-  void Form_QueryUnload();
-  void cmdReset_Click();
-  void cmdSound_Click();
-  void cmdCancel_Click();
+  void CloseSideForms();
+  void LeaveGame();
+  void SwitchSound();
+  void Reset();
   void LayGunAtRest();
   void TakeDownTarget();
   void StartNewGame();
   void UnloadScales();
 
   // help.cpp
-  void cmdHelp_Click();
-  void mnuIntro_Click();
-  void mnuScenario_Click();
-  void mnuRules_Click();
-  void mnuPhysics_Click();
-  void mnuCodeSegment_Click();
-  void mnuMasters_Click();
-  void mnuAbout_Click();
-  void mnuPrint_Click();
-  void mnuReadme_Click();
-  void cmdCloseReadme_Click();
-  void mnuUninstall_Click();
+  void BindDocuments();
+  void OpenHelpMenu();
+  void ShowMasters();
+  void ShowAbout();
+  void OpenReadme();
+  void CloseReadme();
+  void ExplainUninstalling();
 
-  FormHandle<ProjectileForm> projectile;
-  FormHandle<TrajectoryForm> frmTrajectory;
-  FormHandle<MastersForm> frmMasters;
-  FormHandle<AnalysisForm> Analysis;
-  FormHandle<AboutForm> About;
+  FormHandle<ProjectileForm> bench_;
+  FormHandle<TrajectoryForm> simulator_;
+  FormHandle<MastersForm> masters_;
+  FormHandle<AnalysisForm> documents_;
+  FormHandle<AboutForm> about_;
 
-  std::int16_t mShellArmed = 0;  // 1 lets tmrShell work
-  std::int16_t mBonusShot = 0;   // 1: the bonus shot is armed
-  std::int16_t mDragOn = 0;      // 1: drag is on for the shell now laid
+  // What Fire and the previews launch a shell with. The fragments of a hit leave the speed of the last one
+  // here: drag that is turned on among them is previewed with it.
+  Single muzzleVelocity_;   // m/s
+  Single muzzleElevation_;  // radians
 
-  Single mTrackSpeed;  // horizontal speed of the radar's target, twips a second
-  std::int16_t mTargetAltitude =
-      0;               // the descent that the target must pass before the lock-on, 1 to 6000 twips
-  Single mBearingDeg;  // bearing of the target at the lock-on
-  Single mSightRatio;  // places the meeting point of the sight lines
-  Single mTargetKm;    // range of the target, at least 10.7 km after a lock-on
+  bool shellIsArmed_ = false;  // lets shellTimer work; Reset takes it away and leaves the timer running
+  bool bonusShot_ = false;     // from the fifth Fire on: what is laid is the bonus shot, and is plotted
+  bool dragIsOn_ = false;      // for the shell now laid, or in the air
 
-  std::int16_t mProfileHeight = 0;  // height of Picture11, twips
-  Single mImpactSeconds;            // whole seconds to impact by the last preview of a laying
-  Single mImpactSlope;              // angle of the slope struck, radians
+  Single trackSpeed_;                // horizontal speed of the radar's target, twips a second
+  std::int16_t lockOnDescent_ = 0;   // how far the target must come down before the lock-on, 1 to 6000 twips
+  Single targetKm_;                  // range of the target, at least 10.7 km after a lock-on
+  std::int16_t mountainHeight_ = 0;  // of the box and its outline, twips
+  Single impactSeconds_;             // whole seconds to impact by the last preview of a laying
 
-  std::array<std::int16_t, fragmentCount> mFragOrigin{};  // where each fragment starts, twips
-  std::array<Single, fragmentCount> mFragRun{};           // how far it has run
-  std::array<Single, fragmentCount> mFragHeight{};
-  Single mFragRange, mFragApex;  // the parabola of the fragment moved last
+  std::array<std::int16_t, fragmentCount> fragmentOrigin_{};  // where each fragment starts, twips
+  std::array<Single, fragmentCount> fragmentRun_{};           // how far it has run
 };
 
 }  // namespace quintara

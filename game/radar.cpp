@@ -22,44 +22,44 @@ constexpr ProfileBand profileBands[] = {
 
 }  // namespace
 
-void QuintaraForm::cmdSearch_Click() {
+void QuintaraForm::Search() {
   flight.dt = 0.05;
-  Line2.X1 = 1800;
-  Line2.Y1 = 2040;
-  Shape2.Left = 1560;
-  Shape2.Top = 1920;
-  Shape2.Visible = true;
-  Line2.Visible = true;
+  beam.X1 = 1800;
+  beam.Y1 = 2040;
+  target.Left = 1560;
+  target.Top = 1920;
+  target.Visible = true;
+  beam.Visible = true;
   scene().Randomize();
-  mTargetAltitude = CInt(Int(scene().Rnd() * 6000 + 1));
-  Label4.Caption = "  Target aquisition in progress";
+  lockOnDescent_ = CInt(Int(scene().Rnd() * 6000 + 1));
+  advice.Caption = "  Target aquisition in progress";
   flight.x = 0;
   flight.y = 0;
-  Line6.Visible = true;
-  Line17.Visible = true;
-  Image2.Visible = true;
-  tmrBounce.Interval = 50;
-  tmrBounce.Enabled = true;
-  cmdSearch.Enabled = false;
+  radarToMortar.Visible = true;
+  mortarMark.Visible = true;
+  mortarTag.Visible = true;
+  driftRightTimer.Interval = 50;
+  driftRightTimer.Enabled = true;
+  searchButton.Enabled = false;
 }
 
-void QuintaraForm::tmrBounce_Timer() {
-  DriftTarget({tmrBounce, tmrBounce2, 1});
+void QuintaraForm::DriftRight() {
+  DriftTarget({driftRightTimer, driftLeftTimer, 1});
 }
-void QuintaraForm::tmrBounce2_Timer() {
-  DriftTarget({tmrBounce2, tmrBounce, -1});
+void QuintaraForm::DriftLeft() {
+  DriftTarget({driftLeftTimer, driftRightTimer, -1});
 }
 
 // One tick of the target's run. At an edge the two timers change over, and the tick goes on all the same: a
 // lock-on in that very tick stops only its own timer, so the other runs once more and locks on a second time.
 void QuintaraForm::DriftTarget(const Drift& drift) {
   SetTrackSpeed();
-  flight.x = flight.x + drift.direction * (flight.dt * mTrackSpeed);
+  flight.x = flight.x + drift.direction * (flight.dt * trackSpeed_);
   flight.y = flight.y + flight.dt * 500;
-  Shape2.Left = flight.x;
-  Shape2.Top = flight.y + 2000;
+  target.Left = flight.x;
+  target.Top = flight.y + 2000;
 
-  const bool atEdge = drift.direction > 0 ? Shape2.Left > 14500 : Shape2.Left < 0;
+  const bool atEdge = drift.direction > 0 ? target.Left > 14500 : target.Left < 0;
   if (atEdge) {
     scene().Beep();
     drift.timer.Interval = 0;
@@ -69,7 +69,7 @@ void QuintaraForm::DriftTarget(const Drift& drift) {
   }
   ShowProfilePicture();
 
-  if (!(flight.y > mTargetAltitude)) {
+  if (!(flight.y > lockOnDescent_)) {
     GrowTarget();
   } else if (flight.x > 200) {
     LockOn(drift.timer);
@@ -79,14 +79,14 @@ void QuintaraForm::DriftTarget(const Drift& drift) {
 // The two rules do not meet at 7360, and exactly there the speed stays: the target is fastest near the middle
 // and crawls at the right edge.
 void QuintaraForm::SetTrackSpeed() {
-  if (flight.x < 7360) mTrackSpeed = (flight.x * 4 + 3000) * 3;
-  if (flight.x > 7360) mTrackSpeed = (58880 - flight.x * 4) * 3;
+  if (flight.x < 7360) trackSpeed_ = (flight.x * 4 + 3000) * 3;
+  if (flight.x > 7360) trackSpeed_ = (58880 - flight.x * 4) * 3;
 }
 
 void QuintaraForm::ShowProfilePicture() {
   for (const ProfileBand& band : profileBands) {
     if (flight.x > band.above && flight.x < band.below) {
-      scene().LoadPictureInto(Picture4, shared.programFolder + band.file);
+      scene().LoadPictureInto(scope, shared.programFolder + band.file);
       return;
     }
   }
@@ -94,11 +94,11 @@ void QuintaraForm::ShowProfilePicture() {
 
 // The target grows to the right and downwards, and the beam ends on its centre.
 void QuintaraForm::GrowTarget() {
-  Shape2.Visible = true;
-  Shape2.Width = (500 - (12000 - flight.x) / 60) * (flight.y / 4800 + 5.0 / 8);
-  Shape2.Height = Shape2.Width / 2;
-  Line2.X1 = Shape2.Left + Shape2.Width / 2;
-  Line2.Y1 = Shape2.Top + Shape2.Height / 2;
+  target.Visible = true;
+  target.Width = (500 - (12000 - flight.x) / 60) * (flight.y / 4800 + 5.0 / 8);
+  target.Height = target.Width / 2;
+  beam.X1 = target.Left + target.Width / 2;
+  beam.Y1 = target.Top + target.Height / 2;
 }
 
 void QuintaraForm::LockOn(Timer& running) {
@@ -106,46 +106,49 @@ void QuintaraForm::LockOn(Timer& running) {
   DrawSightings();
   MeasureRange();
 
-  Label5.Left = Shape3.Left - 200;
-  Label5.Top = Shape3.Top + 120;
-  Label5.Caption = " Target at " + std::string(quintara::Left(ToText(mTargetKm), 4)) + " km";
-  Label5.Visible = true;
-  cmdMagnify.Enabled = true;
+  targetTag.Left = targetMark.Left - 200;
+  targetTag.Top = targetMark.Top + 120;
+  targetTag.Caption = " Target at " + std::string(quintara::Left(ToText(targetKm_), 4)) + " km";
+  targetTag.Visible = true;
+  magnifyButton.Enabled = true;
   running.Interval = 0;
   running.Enabled = false;
-  Label4.Caption =
+  advice.Caption =
       " Click Magnify (M) to display the     Terrain Profile and start the           Ballistic Simulator";
 }
 
-// The sight lines meet at a point of the line from the mortar to the target, which the target's bearing
+// The sightings of target and mortar meet at a point of the line between the two, which the target's bearing
 // places.
 void QuintaraForm::DrawSightings() {
-  // The bearing takes flight.y as it is, without the 2000 that the target's place on the landscape adds.
-  mBearingDeg = (180 / 3.1416) * Atn((flight.x - Line6.X1) / (flight.y - Line6.Y1));
-  mSightRatio = (mBearingDeg + 101.6) / 458.6;
-  Line2.X1 = flight.x;
-  Line2.Y1 = flight.y + 2000;
-  Line3.X1 = Line2.X1;
-  Line3.Y1 = Line2.Y1;
-  Line5.X1 = (Line2.X1 * mSightRatio + Line6.X2) / (mSightRatio + 1);
-  Line5.Y1 = ((Line5.X1 - Line6.X2) * Line2.Y1 + (Line2.X1 - Line5.X1) * Line6.Y2) / (Line2.X1 - Line6.X2);
-  Line3.X2 = Line5.X1;
-  Line3.Y2 = Line5.Y1;
-  Shape3.Left = Line2.X1 - Shape3.Width / 2;
-  Shape3.Top = Line2.Y1 - Shape3.Height / 2;
-  Line2.BorderColor = 255;
-  Line3.Visible = true;
-  Line5.Visible = true;
-  Shape3.Visible = true;
-  Shape2.Visible = false;
+  // The bearing, in degrees, takes flight.y as it is, without the 2000 that the target's place on the
+  // landscape adds.
+  const Single bearing = (180 / pi) * Atn((flight.x - radarToMortar.X1) / (flight.y - radarToMortar.Y1));
+  const Single ratio = (bearing + 101.6) / 458.6;
+  beam.X1 = flight.x;
+  beam.Y1 = flight.y + 2000;
+  sightingOfTarget.X1 = beam.X1;
+  sightingOfTarget.Y1 = beam.Y1;
+  sightingOfMortar.X1 = (beam.X1 * ratio + radarToMortar.X2) / (ratio + 1);
+  sightingOfMortar.Y1 = ((sightingOfMortar.X1 - radarToMortar.X2) * beam.Y1 +
+                         (beam.X1 - sightingOfMortar.X1) * radarToMortar.Y2) /
+                        (beam.X1 - radarToMortar.X2);
+  sightingOfTarget.X2 = sightingOfMortar.X1;
+  sightingOfTarget.Y2 = sightingOfMortar.Y1;
+  targetMark.Left = beam.X1 - targetMark.Width / 2;
+  targetMark.Top = beam.Y1 - targetMark.Height / 2;
+  beam.BorderColor = 255;
+  sightingOfTarget.Visible = true;
+  sightingOfMortar.Visible = true;
+  targetMark.Visible = true;
+  target.Visible = false;
 }
 
 void QuintaraForm::MeasureRange() {
-  const double dx = Line2.X1 - Line6.X2;
-  const double dy = Line2.Y1 - Line6.Y2;
-  mTargetKm = Sqr(dx * dx + dy * dy);
-  mTargetKm = mTargetKm * 0.00182 + 7.45;
-  if (mTargetKm < Single(10.7)) mTargetKm = 10.7;  // a near target is reported, and stands, at 10.7 km
+  const double dx = beam.X1 - radarToMortar.X2;
+  const double dy = beam.Y1 - radarToMortar.Y2;
+  targetKm_ = Sqr(dx * dx + dy * dy);
+  targetKm_ = targetKm_ * 0.00182 + 7.45;
+  if (targetKm_ < Single(10.7)) targetKm_ = 10.7;  // a near target is reported, and stands, at 10.7 km
 }
 
 }  // namespace quintara

@@ -14,22 +14,22 @@ class ProjectileForm : public ProjectileControls {
   explicit ProjectileForm(Scene& scene);
 
  private:
-  // What runs, as mBallMode says it.
-  static constexpr std::int16_t idle = 0, linear = 1, falling = 2, combined = 3;
+  // What runs: ball 1, ball 2, or all three.
+  enum class Run { None, Linear, Fall, Combined };
 
   // projectile.cpp
-  void Form_Load();
-  void Form_QueryUnload();
-  void cmdBall1_Click();
-  void cmdBall2_Click();
-  void cmdBall3_Click();
-  void cmdReset_Click();
-  void cmdStop_Click();
-  void cmdCancel_Click();
-  void tmrStart_Timer();
+  void SetUp();
+  void UnloadRailNumbers();
+  void StartBall1();
+  void StartBall2();
+  void StartBall3();
+  void PutBack();
+  void StopOrGo();
+  void TickBalls();
   void LoadScales();
   void LayDial();
-  void StartRun(std::int16_t mode);
+  void Start(Run started);
+  void StartTimer();
   void StopTimer();
   void ForgetRun();
   void PutBallsBack();
@@ -38,19 +38,20 @@ class ProjectileForm : public ProjectileControls {
   void HideVectors();
 
   // projectile_balls.cpp
-  void StepHorizontalBall();
-  void StepFallingBall();
-  void StepCombinedBall();
+  void StepBall1();
+  void StepBall2();
+  void StepBall3();
   void PassRailBand();
+  void RunOn();
   void Fall();
   void DrawFall();
   void PassFallBand();
-  void LaySightLine();
+  void LaySightLineDown();
   void LayResultant();
   void MoveHand(int position);
   void OfferReset();
   // Length of the y arrow, twips: it grows with the way that ball 2 has fallen, not with its velocity.
-  double FallArrow() const { return (Shape2.Top - 480) * 0.26; }
+  double FallArrow() const { return (ball2.Top - 480) * 0.26; }
 
   template <typename... Controls>
   static void SetVisible(bool visible, Controls&... controls) {
@@ -61,21 +62,15 @@ class ProjectileForm : public ProjectileControls {
     box.Top = top;
   }
 
-  std::int16_t mBallMode = idle;
-  std::int16_t mBallRate = 0;  // twips a second that the steps of balls 1 and 2 each add to mBallX
-  Single mBallX;               // twips run so far; ball 1 stands at mBallX + 500
-  Single mBallVy;              // m/s, negative downwards
-  Single mBallY;               // metres, negative downwards, 0 at the start
-  Single mShownVy;             // what Label14 says, a whole multiple of -9.8 m/s
-  Single mBallsPaused;         // 1: the next click on cmdStop lets the timer run
+  static constexpr double dialX = 500, dialY = 500;  // centre of the dial, twips
+  static constexpr double dialNumberRadius = 400, handLength = 280;
+  static constexpr Single dialStep = 141.372 / 180;  // angle between two positions of the hand, radians
 
-  Single mDialX, mDialY;  // centre of the dial, twips
-  Single mDialBase;       // what its radii are counted from
-  Single mDialStep;       // angle between two of its positions, radians
-
-  Single mArrowRad, mArrowComplement;  // angle of the resultant arrow below the horizontal, and what is left
-                                       // of a right angle
-  std::int16_t mLoopIndex = 0;
+  Run run_ = Run::None;
+  Single way_;           // twips that the run has gone so far; ball 1 stands 500 further
+  Single fallVelocity_;  // m/s, negative downwards
+  Single fallHeight_;    // metres, negative downwards, 0 at the start
+  bool paused_ = false;  // the next click on the Stop button lets the timer run
 };
 
 }  // namespace quintara

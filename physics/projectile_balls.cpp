@@ -21,7 +21,7 @@ constexpr std::int16_t bandCount = 8;
 // What comes with a band beside its numbers.
 enum class Effect { None, OffersReset, EndsRun };
 
-// One second of the run along the rail, by Shape1.Left.
+// One second of the run along the rail, by ball1.Left.
 struct RailBand {
   Span place;
   std::string_view metres;
@@ -39,14 +39,14 @@ constexpr RailBand railBands[bandCount] = {
     {{5940, noLimit}, "560", Effect::EndsRun},
 };
 
-// One second of the fall, by mBallVy.
+// One second of the fall, by fallVelocity.
 struct FallBand {
   Span velocity;
   int marks;  // how many ticks of the scale, up to its own, a fall on its own shows
   std::string_view metres;
   double shownVelocity;
   Effect effect = Effect::None;
-  double lowerThan = 0;  // what Shape2.Top has to have passed as well
+  double lowerThan = 0;  // what ball2.Top has to have passed as well
 };
 // The first that holds counts, so the last takes what is too fast for the others, once it is near the ground.
 constexpr FallBand fallBands[bandCount] = {
@@ -78,35 +78,34 @@ bool LiesInOneOf(const Spans& spans, double value) {
 
 }  // namespace
 
-void ProjectileForm::StepHorizontalBall() {
-  SetVisible(true, Line10, Line15, Line16, Label12, Image2, Shape10, Label15);
-  if (mBallMode == linear) Label9.Visible = true;
+void ProjectileForm::StepBall1() {
+  SetVisible(true, xArrow, xUpperBarb, xLowerBarb, vxText, vxSymbol, panelBall1, panelDigit1);
+  if (run_ == Run::Linear) metresText.Visible = true;
   // The plunger has struck.
-  Line6.X1 = 420;
-  Line6.X2 = 560;
-  Line6.BorderColor = 0x80000002;
+  plunger1.X1 = 420;
+  plunger1.X2 = 560;
+  plunger1.BorderColor = 0x80000002;
 
-  mBallRate = mBallMode == combined ? 375 : 750;
-  mBallX = mBallRate * 0.05 + mBallX;
-  Place(Shape1, mBallX + 500, 105);
-  Place(Label1, mBallX + 560, 145);
+  RunOn();
+  Place(ball1, way_ + 500, 105);
+  Place(digit1, way_ + 560, 145);
 
-  for (mLoopIndex = 0; mLoopIndex <= 7; ++mLoopIndex) {
-    Line7(mLoopIndex).X1 = 1025 + 725 * mLoopIndex;
-    Line7(mLoopIndex).X2 = 1025 + 725 * mLoopIndex;
+  for (std::int16_t k = 0; k < bandCount; ++k) {
+    railTicks(k).X1 = 1025 + 725 * k;
+    railTicks(k).X2 = 1025 + 725 * k;
   }
-  if (mBallMode == linear && LiesInOneOf(railBeeps, Shape1.Left)) scene().Beep();
+  if (run_ == Run::Linear && LiesInOneOf(railBeeps, ball1.Left)) scene().Beep();
   PassRailBand();
 }
 
 void ProjectileForm::PassRailBand() {
   for (std::int16_t k = 0; k < bandCount; ++k) {
     const RailBand& band = railBands[k];
-    if (!band.place.Holds(Shape1.Left)) continue;
-    if (mBallMode == linear) SetVisible(true, Line7(k), Label8(k));
+    if (!band.place.Holds(ball1.Left)) continue;
+    if (run_ == Run::Linear) SetVisible(true, railTicks(k), railNumbers(k));
     MoveHand(k + 1);
-    Label8(k).Left = Line7(k).X1 - 120;
-    Label8(k).Caption = band.metres;
+    railNumbers(k).Left = railTicks(k).X1 - 120;
+    railNumbers(k).Caption = band.metres;
     if (band.effect == Effect::OffersReset) OfferReset();
     if (band.effect == Effect::EndsRun) {
       scene().Beep();
@@ -116,130 +115,134 @@ void ProjectileForm::PassRailBand() {
   }
 }
 
-void ProjectileForm::StepFallingBall() {
-  SetVisible(true, Line12, Line19, Line20, Label14, Image3, Shape11, Label16);
-  Place(Shape11, 370, 650);
-  Place(Label16, 440, 690);
+void ProjectileForm::StepBall2() {
+  SetVisible(true, yArrow, yRightBarb, yLeftBarb, vyText, vySymbol, panelBall2, panelDigit2);
+  Place(panelBall2, 370, 650);
+  Place(panelDigit2, 440, 690);
   Fall();
   DrawFall();
-  if (LiesInOneOf(fallBeeps, Line2.X2)) scene().Beep();
+  if (LiesInOneOf(fallBeeps, sightLineDown.X2)) scene().Beep();
   PassFallBand();
 }
 
-// Beside ball 1 the rate is its 375, half of that of a ball alone: both steps add to mBallX, so that a second
+// Comes with each step of ball 1 and of ball 2. Where both run, each brings half of the way, so that a second
 // is as long as ever.
+void ProjectileForm::RunOn() {
+  const double twipsPerSecond = run_ == Run::Combined ? 375 : 750;
+  way_ = twipsPerSecond * 0.05 + way_;
+}
+
 void ProjectileForm::Fall() {
-  if (mBallMode == falling) mBallRate = 750;
-  mBallX = mBallRate * 0.05 + mBallX;
-  mBallVy = mBallVy - 0.49;
-  mBallY = mBallVy * 0.05 + mBallY + 0.05 * 0.05 * (0.5 * -9.8);
+  RunOn();
+  fallVelocity_ = fallVelocity_ - 0.49;
+  fallHeight_ = fallVelocity_ * 0.05 + fallHeight_ + 0.05 * 0.05 * (0.5 * -9.8);
   // Nothing need run along the rail: the hidden line carries the place there that the beeps go by.
-  Line2.Visible = false;
-  Line2.X2 = mBallX + 500;
+  sightLineDown.Visible = false;
+  sightLineDown.X2 = way_ + 500;
 }
 
 void ProjectileForm::DrawFall() {
-  Place(Shape2, 0, 480 - mBallY * 12.8);
-  Place(Label2, 60, 520 - mBallY * 12.8);
+  Place(ball2, 0, 480 - fallHeight_ * 12.8);
+  Place(digit2, 60, 520 - fallHeight_ * 12.8);
   // The trap hangs open.
-  Line4.X1 = 300;
-  Line4.Y1 = 960;
+  trap.X1 = 300;
+  trap.Y1 = 960;
 
-  Line1.X1 = Shape2.Width + Shape2.Left;
-  if (mBallMode == falling) {
-    Line1.X2 = 6500;
-    Label9.Visible = true;
+  sightLineAcross.X1 = ball2.Width + ball2.Left;
+  if (run_ == Run::Fall) {
+    sightLineAcross.X2 = 6500;
+    metresText.Visible = true;
   }
-  Line1.Y1 = Shape2.Width / 2 + Shape2.Top;
-  Line1.Y2 = Shape2.Width / 2 + Shape2.Top;
+  sightLineAcross.Y1 = ball2.Width / 2 + ball2.Top;
+  sightLineAcross.Y2 = ball2.Width / 2 + ball2.Top;
 
-  Line12.Y1 = FallArrow() + Line12.Y2;
-  Label14.Top = FallArrow() + 870;
-  Image3.Top = FallArrow() + 870;
-  Line19.Lay({Line12.X1, Line12.Y1 + 60, Line12.X1 + 60, Line12.Y1});
-  Line20.Lay({Line12.X1, Line12.Y1 + 60, Line12.X1 - 60, Line12.Y1});
+  yArrow.Y1 = FallArrow() + yArrow.Y2;
+  vyText.Top = FallArrow() + 870;
+  vySymbol.Top = FallArrow() + 870;
+  yRightBarb.Lay({yArrow.X1, yArrow.Y1 + 60, yArrow.X1 + 60, yArrow.Y1});
+  yLeftBarb.Lay({yArrow.X1, yArrow.Y1 + 60, yArrow.X1 - 60, yArrow.Y1});
 }
 
 // The band's tick and number go along with the ball and stay where it left the band.
 void ProjectileForm::PassFallBand() {
   for (std::int16_t k = 0; k < bandCount; ++k) {
     const FallBand& band = fallBands[k];
-    if (!band.velocity.Holds(mBallVy) || !(Shape2.Top > band.lowerThan)) continue;
-    if (mBallMode == falling) {
-      for (mLoopIndex = static_cast<std::int16_t>(k - band.marks + 1); mLoopIndex <= k; ++mLoopIndex)
-        SetVisible(true, Line9(mLoopIndex), Label4(mLoopIndex));
+    if (!band.velocity.Holds(fallVelocity_) || !(ball2.Top > band.lowerThan)) continue;
+    if (run_ == Run::Fall) {
+      for (auto marked = static_cast<std::int16_t>(k - band.marks + 1); marked <= k; ++marked)
+        SetVisible(true, fallTicks(marked), fallNumbers(marked));
     }
-    Line9(k).Y1 = 640 - mBallY * 12.8;
-    Line9(k).Y2 = 640 - mBallY * 12.8;
-    Label4(k).Top = 520 - mBallY * 12.8;
-    Label4(k).Caption = band.metres;
+    fallTicks(k).Y1 = 640 - fallHeight_ * 12.8;
+    fallTicks(k).Y2 = 640 - fallHeight_ * 12.8;
+    fallNumbers(k).Top = 520 - fallHeight_ * 12.8;
+    fallNumbers(k).Caption = band.metres;
     MoveHand(k + 1);
-    mShownVy = band.shownVelocity;
-    Label14.Caption = "= " + ToText(mShownVy) + " m/s";
+    vyText.Caption = "= " + ToText(Single(band.shownVelocity)) + " m/s";
     if (band.effect == Effect::OffersReset) OfferReset();
     if (band.effect == Effect::EndsRun) StopTimer();
     return;
   }
 }
 
-void ProjectileForm::StepCombinedBall() {
-  Label9.Visible = false;
-  Line5.X1 = 420;
-  Line5.X2 = 560;
-  SetVisible(true, Shape3, Label3, Line2);
-  Place(Shape3, Shape1.Left, Shape2.Top);
-  Place(Label3, Label1.Left, Label2.Top);
-  Line1.X1 = Shape3.Width + Shape3.Left;
-  Line1.X2 = Shape2.Width + Shape2.Left;
+void ProjectileForm::StepBall3() {
+  metresText.Visible = false;
+  plunger3.X1 = 420;
+  plunger3.X2 = 560;
+  SetVisible(true, ball3, digit3, sightLineDown);
+  Place(ball3, ball1.Left, ball2.Top);
+  Place(digit3, digit1.Left, digit2.Top);
+  sightLineAcross.X1 = ball3.Width + ball3.Left;
+  sightLineAcross.X2 = ball2.Width + ball2.Left;
 
   DrawWidth = 2;
-  PSet(Shape3.Left - 20, Shape3.Top + 60, QBColor(6));
-  LaySightLine();
+  PSet(ball3.Left - 20, ball3.Top + 60, QBColor(6));
+  LaySightLineDown();
 
-  SetVisible(true, Line10, Line11, Line12, Line15, Line16, Line17, Line18, Line19, Line20, Line21, Line22);
-  SetVisible(true, Shape12, Label17);
-  Place(Shape12, 370, 650);
-  Place(Label17, 440, 690);
+  SetVisible(true, xArrow, resultantArrow, yArrow, xUpperBarb, xLowerBarb, resultantUpperBarb,
+             resultantLowerBarb, yRightBarb, yLeftBarb, guideDown, guideAcross);
+  SetVisible(true, panelBall3, panelDigit3);
+  Place(panelBall3, 370, 650);
+  Place(panelDigit3, 440, 690);
   LayResultant();
 }
 
 // From ball 1 down to ball 3.
-void ProjectileForm::LaySightLine() {
-  Line2.X1 = Shape1.Width / 2 + Shape1.Left;
-  Line2.X2 = Shape1.Width / 2 + Shape1.Left;
-  Line2.Y1 = Shape1.Width + Shape1.Top;
-  Line2.Y2 = Shape3.Top;
+void ProjectileForm::LaySightLineDown() {
+  sightLineDown.X1 = ball1.Width / 2 + ball1.Left;
+  sightLineDown.X2 = ball1.Width / 2 + ball1.Left;
+  sightLineDown.Y1 = ball1.Width + ball1.Top;
+  sightLineDown.Y2 = ball3.Top;
 }
 
-// Ball 2, which ball 3 falls with, has laid the arrow downwards, Line12, in this very tick.
+// Ball 2, which ball 3 falls with, has laid the arrow downwards in this very tick.
 void ProjectileForm::LayResultant() {
-  Line11.X1 = Line10.X2;
-  Line11.Y1 = FallArrow() + Line12.Y2;
-  mArrowRad = Atn((Line11.Y1 - Line10.Y1) / (Line10.X2 - Line10.X1));
-  mArrowComplement = 3.1416 / 2 - mArrowRad;
+  resultantArrow.X1 = xArrow.X2;
+  resultantArrow.Y1 = FallArrow() + yArrow.Y2;
+  const Single angle = Atn((resultantArrow.Y1 - xArrow.Y1) / (xArrow.X2 - xArrow.X1));
+  const Single complement = 3.1416 / 2 - angle;
 
-  Line15.Lay({Line10.X2 + 60, Line10.Y2, Line10.X2, Line10.Y2 - 60});
-  Line16.Lay({Line10.X2 + 60, Line10.Y2, Line10.X2, Line10.Y2 + 60});
+  xUpperBarb.Lay({xArrow.X2 + 60, xArrow.Y2, xArrow.X2, xArrow.Y2 - 60});
+  xLowerBarb.Lay({xArrow.X2 + 60, xArrow.Y2, xArrow.X2, xArrow.Y2 + 60});
 
-  const double x = Line11.X1, y = Line11.Y1, a = mArrowRad, b = mArrowComplement;
-  const double tipX = x + 60 * Cos(a), tipY = y + 60 * Sin(a);
-  Line17.Lay({tipX, tipY, x + 60 * Sin(a), y - 60 * Cos(a)});
-  Line18.Lay({tipX, tipY, x - 60 * Cos(b), y + 60 * Sin(b)});
+  const double x = resultantArrow.X1, y = resultantArrow.Y1;
+  const double tipX = x + 60 * Cos(angle), tipY = y + 60 * Sin(angle);
+  resultantUpperBarb.Lay({tipX, tipY, x + 60 * Sin(angle), y - 60 * Cos(angle)});
+  resultantLowerBarb.Lay({tipX, tipY, x - 60 * Cos(complement), y + 60 * Sin(complement)});
 
-  Line21.Y2 = Line17.Y1;
-  Line22.Y1 = Line17.Y1;
-  Line22.Y2 = Line17.Y1;
+  guideDown.Y2 = resultantUpperBarb.Y1;
+  guideAcross.Y1 = resultantUpperBarb.Y1;
+  guideAcross.Y2 = resultantUpperBarb.Y1;
 }
 
 // Position 8 is the top again.
 void ProjectileForm::MoveHand(int position) {
-  Line8.X2 = mDialX + (mDialBase + 80) * Sin(position * mDialStep);
-  Line8.Y2 = mDialY - (mDialBase + 80) * Cos(position * mDialStep);
+  dialHand.X2 = dialX + handLength * Sin(position * dialStep);
+  dialHand.Y2 = dialY - handLength * Cos(position * dialStep);
 }
 
 void ProjectileForm::OfferReset() {
-  Label7.Visible = true;
-  cmdReset.Enabled = true;
+  resetHint.Visible = true;
+  resetButton.Enabled = true;
 }
 
 }  // namespace quintara

@@ -14,17 +14,17 @@ constexpr double metresPerSliderPosition = 99;
 
 }  // namespace
 
-void TrajectoryForm::HScroll1_Change() {
+void TrajectoryForm::ReplayElevation() {
   TakeElevation();
   Replay(-20);
-  Label26.Caption = "Velocity at Impact (m/s):";
+  speedCaption.Caption = "Velocity at Impact (m/s):";
 }
-void TrajectoryForm::HScroll2_Change() {
+void TrajectoryForm::ReplayVelocity() {
   TakeVelocity();
   Replay(-20);
 }
 // The one curve that ends above the ground: it is followed down to 20 m, not to 20 m below.
-void TrajectoryForm::HScroll3_Change() {
+void TrajectoryForm::ReplayDrag() {
   TakeDrag();
   TakeElevation();
   TakeVelocity();
@@ -35,10 +35,9 @@ void TrajectoryForm::HScroll3_Change() {
 // ticking: it finds itself far below the ground and stops.
 void TrajectoryForm::Replay(double floor) {
   ShowBall(false);
-  picVector.Visible = false;
-  Slider1.Value = 0;
+  vectorPanel.Visible = false;
+  distanceSlider.Value = 0;
   StartFlight(fineStep);
-  mStepCount = 1;
   SetUpChart();
   Cls();
   PlotFlight(floor);
@@ -54,10 +53,10 @@ void TrajectoryForm::PlotFlight(double floor) {
   };
   std::optional<Point> lastAboveFloor;
   std::optional<Single> lastHeightRisen;
-  Flight shell = flight;
-  const double k = Val(Label11.Caption);
-  const std::int16_t end = EndOfSteps(mTrajV0);
-  for (; mStepCount < end; ++mStepCount) {
+  Flight shell = flight_;
+  const double k = Val(dragText.Caption);
+  const std::int16_t end = EndOfSteps(initialVelocity_);
+  for (std::int16_t step = 1; step < end; ++step) {
     BallisticStep(shell, k);
     if (shell.y > floor) {
       PlotPoint(shell.x, shell.y);
@@ -65,145 +64,143 @@ void TrajectoryForm::PlotFlight(double floor) {
     }
     if (shell.vy > Single(0.01)) lastHeightRisen = shell.y;
   }
-  flight = shell;
+  flight_ = shell;
   if (lastAboveFloor) {
-    Label29.Caption = Format(lastAboveFloor->time, Pattern::Whole);
-    Label20.Caption = Format(lastAboveFloor->x, Pattern::Whole);
-    Label27.Caption = Format(lastAboveFloor->speed, Pattern::TwoDecimals);
+    timeText.Caption = Format(lastAboveFloor->time, Pattern::Whole);
+    rangeText.Caption = Format(lastAboveFloor->x, Pattern::Whole);
+    speedText.Caption = Format(lastAboveFloor->speed, Pattern::TwoDecimals);
   }
-  if (lastHeightRisen) Label21.Caption = Format(*lastHeightRisen, Pattern::Whole);
+  if (lastHeightRisen) heightText.Caption = Format(*lastHeightRisen, Pattern::Whole);
 }
 
 void TrajectoryForm::ShowReplayCaptions() {
-  Label18.Caption = "Range (m):";
-  Label19.Caption = "Height (m):";
-  Label22.Caption = "";
-  Label24.Caption = "";
-  Label23.Visible = false;
-  Label25.Visible = false;
-  cmdFire.Enabled = true;
-  cmdStop.Enabled = false;
-  mTrajPaused = 0;
-  cmdStop.Caption = "Stop";
+  rangeCaption.Caption = "Range (m):";
+  heightCaption.Caption = "Height (m):";
+  vxCaption.Caption = "";
+  vyCaption.Caption = "";
+  vxText.Visible = false;
+  vyText.Visible = false;
+  fireButton.Enabled = true;
+  stopButton.Enabled = false;
+  paused_ = false;
+  stopButton.Caption = "Stop";
 }
 
 // The flight up to the slider's distance. A ball that is in the air goes on from there, in fine steps.
-void TrajectoryForm::Slider1_Scroll() {
+void TrajectoryForm::TakeBallToDistance() {
   TakeDrag();
-  Shape1.Visible = false;
+  ball.Visible = false;
   TakeElevation();
   TakeVelocity();
   StartFlight(fineStep);
-  mStepCount = 1;
   SetUpChart();
   Cls();
   FlyToSlider();
   ShowBallAtSlider();
   LayProjectionLines();
   DrawVectors();
-  Label18.Caption = "x (m):";
-  Label19.Caption = "y (m):";
-  Label26.Caption = "Velocity (m/s):";
+  rangeCaption.Caption = "x (m):";
+  heightCaption.Caption = "y (m):";
+  speedCaption.Caption = "Velocity (m/s):";
   ShowComponentReadOuts();
   ShowFlightReadOuts();
 }
 
 // The step that passes the slider counts along the ground only: height and time are those of the one before.
 void TrajectoryForm::FlyToSlider() {
-  const std::int16_t end = EndOfSteps(mTrajV0);
-  while (mStepCount < end) {
-    ++mStepCount;
-    StepAlongGround(flight, Val(Label11.Caption));
-    if (flight.x > Slider1.Value * metresPerSliderPosition) return;
-    StepUpwards(flight);
-    if (flight.y > 0) PlotPoint(flight.x, flight.y);
+  const std::int16_t end = EndOfSteps(initialVelocity_);
+  for (std::int16_t step = 1; step < end; ++step) {
+    StepAlongGround(flight_, Val(dragText.Caption));
+    if (flight_.x > distanceSlider.Value * metresPerSliderPosition) return;
+    StepUpwards(flight_);
+    if (flight_.y > 0) PlotPoint(flight_.x, flight_.y);
   }
 }
 
 // At height 0, where the slider stands before the first step, everything stays as it is.
 void TrajectoryForm::ShowBallAtSlider() {
-  if (flight.y < 0) {
+  if (flight_.y < 0) {
     ShowBall(false);
-    picVector.Visible = false;
-  } else if (flight.y > 0) {
+    vectorPanel.Visible = false;
+  } else if (flight_.y > 0) {
     ShowBall(true);
-    picVector.Visible = true;
+    vectorPanel.Visible = true;
     // Not quite where a flight shows the ball: half its height to the left instead of half its width, and the
     // top 400 above the point.
-    Shape1.Left = ChartX(flight.x) - Shape1.Height / 2;
-    Shape1.Top = 44600 - flight.y * 7.54;
+    ball.Left = ChartX(flight_.x) - ball.Height / 2;
+    ball.Top = 44600 - flight_.y * 7.54;
   }
 }
 
 // A flight leaves the captions of x, y and speed as they are: after a replay these run under
 // "Range" and "Height".
-void TrajectoryForm::cmdFire_Click() {
+void TrajectoryForm::Fire() {
   scene().Beep();
-  StartEventTimer();
+  StartPaceTimer();
   SetUpChart();
-  Label22.Visible = true;
-  Label24.Visible = true;
+  vxCaption.Visible = true;
+  vyCaption.Visible = true;
   ShowComponentReadOuts();
   TakeDrag();
   ShowBall(true);
-  picVector.Visible = true;
+  vectorPanel.Visible = true;
   TakeElevation();
   TakeVelocity();
   StartFlight(ballStep);
-  Timer1.Enabled = true;
-  cmdFire.Enabled = false;
-  cmdStop.Enabled = true;
+  flightTimer.Enabled = true;
+  fireButton.Enabled = false;
+  stopButton.Enabled = true;
 }
 
-void TrajectoryForm::cmdStop_Click() {
-  mTrajPaused = mTrajPaused == 0 ? 1 : 0;
-  cmdStop.Caption = mTrajPaused == 1 ? "Go" : "Stop";
-  Timer1.Enabled = mTrajPaused == 0;
+void TrajectoryForm::StopOrGo() {
+  paused_ = !paused_;
+  stopButton.Caption = paused_ ? "Go" : "Stop";
+  flightTimer.Enabled = !paused_;
 }
 
-// The landing leaves the buttons alone: cmdFire stays disabled until a scroll bar is moved.
-void TrajectoryForm::Timer1_Timer() {
-  if (flight.y < 0) {
+// The landing leaves the buttons alone: Fire stays disabled until a scroll bar is moved.
+void TrajectoryForm::TickFlight() {
+  if (flight_.y < 0) {
     // The ground is found: the ball stops, but this tick still makes its step, and the read-outs show it.
     scene().Beep();
-    Timer1.Enabled = false;
+    flightTimer.Enabled = false;
     ShowBall(false);
-  } else if (flight.y > 0) {
+  } else if (flight_.y > 0) {
     ShowBall(true);
-    picVector.Visible = true;
+    vectorPanel.Visible = true;
   }
-  BallisticStep(flight, Val(Label11.Caption));
+  BallisticStep(flight_, Val(dragText.Caption));
   // Half the width both ways: in chart units the ball's width is not its height.
-  Shape1.Left = ChartX(flight.x) - Shape1.Width / 2;
-  Shape1.Top = ChartY(flight.y) - Shape1.Width / 2;
+  ball.Left = ChartX(flight_.x) - ball.Width / 2;
+  ball.Top = ChartY(flight_.y) - ball.Width / 2;
   LayProjectionLines();
   ShowFlightReadOuts();
   DrawVectors();
 }
 
-void TrajectoryForm::StartEventTimer() {
-  tmrEvent.Enabled = true;
-  tmrEvent.Interval = 1000;
+void TrajectoryForm::StartPaceTimer() {
+  paceTimer.Enabled = true;
+  paceTimer.Interval = 1000;
 }
 
 // A second into the flight its ticks are paced by how far the ball has come; the pace stays for the next
 // flight. A flight that has not ticked yet has no pace, and one that a replay took far away would get an
 // interval that never ticks: both keep the one they have.
-void TrajectoryForm::tmrEvent_Timer() {
-  tmrEvent.Interval = 0;
-  tmrEvent.Enabled = false;
-  if (flight.x == 0) return;
-  mPaceRatio = flight.vx / flight.x;
-  const std::int32_t interval = CLng(mPaceRatio * 100);
-  if (interval >= 1) Timer1.Interval = interval;
+void TrajectoryForm::SetPace() {
+  paceTimer.Interval = 0;
+  paceTimer.Enabled = false;
+  if (flight_.x == 0) return;
+  const Single pace = flight_.vx / flight_.x;
+  const std::int32_t interval = CLng(pace * 100);
+  if (interval >= 1) flightTimer.Interval = interval;
 }
 
 // Every setting of the flight is taken back from its caption.
 void TrajectoryForm::StartFlight(double dt) {
-  mTrajElevationRad = Val(Label5.Caption) * 3.1416 / 180;
-  mTrajV0 = Val(Label6.Caption);
-  Launch(flight, mTrajV0, mTrajElevationRad);
-  flight.dt = dt;
+  const Single elevation = Val(elevationText.Caption) * 3.1416 / 180;
+  initialVelocity_ = Val(velocityText.Caption);
+  Launch(flight_, initialVelocity_, elevation);
+  flight_.dt = dt;
 }
 
 // In these units a kilometre is 7540 both ways. No control moves; all places on the form are counted anew.
@@ -214,35 +211,35 @@ void TrajectoryForm::SetUpChart() {
 }
 
 void TrajectoryForm::ShowBall(bool visible) {
-  Shape1.Visible = visible;
-  Line8.Visible = visible;
-  Line9.Visible = visible;
+  ball.Visible = visible;
+  projectionDown.Visible = visible;
+  projectionAcross.Visible = visible;
 }
 
 // From the ball down to the x axis and across to the y axis.
 void TrajectoryForm::LayProjectionLines() {
-  Line8.X1 = Shape1.Left + Shape1.Height / 2;
-  Line8.X2 = Line8.X1;
-  Line8.Y1 = Shape1.Top + Shape1.Height;
-  Line9.X2 = Shape1.Left;
-  Line9.Y2 = Shape1.Top + Shape1.Height / 2;
-  Line9.Y1 = Line9.Y2;
+  projectionDown.X1 = ball.Left + ball.Height / 2;
+  projectionDown.X2 = projectionDown.X1;
+  projectionDown.Y1 = ball.Top + ball.Height;
+  projectionAcross.X2 = ball.Left;
+  projectionAcross.Y2 = ball.Top + ball.Height / 2;
+  projectionAcross.Y1 = projectionAcross.Y2;
 }
 
 void TrajectoryForm::ShowComponentReadOuts() {
-  Label22.Caption = "Velocity in x-dir (m/s):";
-  Label24.Caption = "Velocity in y-dir (m/s):";
-  Label23.Visible = true;
-  Label25.Visible = true;
+  vxCaption.Caption = "Velocity in x-dir (m/s):";
+  vyCaption.Caption = "Velocity in y-dir (m/s):";
+  vxText.Visible = true;
+  vyText.Visible = true;
 }
 
 void TrajectoryForm::ShowFlightReadOuts() {
-  Label20.Caption = Format(flight.x, Pattern::TwoDecimals);
-  Label21.Caption = Format(flight.y, Pattern::TwoDecimals);
-  Label23.Caption = Format(flight.vx, Pattern::TwoDecimals);
-  Label25.Caption = Format(flight.vy, Pattern::TwoDecimals);
-  Label27.Caption = Format(flight.speed, Pattern::TwoDecimals);
-  Label29.Caption = Format(flight.time, Pattern::TwoDecimals);
+  rangeText.Caption = Format(flight_.x, Pattern::TwoDecimals);
+  heightText.Caption = Format(flight_.y, Pattern::TwoDecimals);
+  vxText.Caption = Format(flight_.vx, Pattern::TwoDecimals);
+  vyText.Caption = Format(flight_.vy, Pattern::TwoDecimals);
+  speedText.Caption = Format(flight_.speed, Pattern::TwoDecimals);
+  timeText.Caption = Format(flight_.time, Pattern::TwoDecimals);
 }
 
 }  // namespace quintara

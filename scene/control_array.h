@@ -48,7 +48,7 @@ class ControlArrayBase {
   std::vector<std::unique_ptr<Object>> loaded_;
 };
 
-// Controls of one kind under one name, told apart by an index: Shape1(0), Shape1(1).
+// Controls of one kind under one name, told apart by an index: shells(0), shells(1).
 template <typename Control>
 class ControlArray : public ControlArrayBase {
  public:

@@ -87,7 +87,7 @@ class Form : public Object, public Container {
   Form(Scene& scene, std::string_view name, const FormLooks& looks);
   ~Form() override;
 
-  // Binds an event to a handler of the form class: Bind(Image7.Click, &QuintaraForm::Image7_Click).
+  // Binds an event to a handler of the form class: Bind(fireButton.Click, &QuintaraForm::Fire).
   template <typename FormClass, typename... Arguments>
   void Bind(Event<Arguments...>& event, void (FormClass::*handler)(Arguments...)) {
     event.Bind(

@@ -106,7 +106,7 @@ class Object {
   std::int16_t index_ = notInArray;
 };
 
-// The name as handlers and messages write it: "Label25", "Shape1(0)".
+// The own name as the host and messages write it: "Label25", "Shape1(0)".
 std::string FullName(const Object& object);
 
 // Whether the object is on a shown form and neither it nor anything that it lies in is hidden.

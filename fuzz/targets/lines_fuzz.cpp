@@ -39,15 +39,15 @@ class Window {
     disk_.written[path] = bytes;
     MastersForm& form = program_.masters();
     form.Show();
-    Require(form.List1.items() == lines, "the window shows the lines");
-    program_.quintara().Label17.Caption = "45";
-    form.Picture1.Visible = true;
-    for (const char letter : {'A', 'd', 'a', '\r'}) UserTypes(form.Text1, letter);
+    Require(form.list.items() == lines, "the window shows the lines");
+    program_.quintara().score.Caption = "45";
+    form.namePanel.Visible = true;
+    for (const char letter : {'A', 'd', 'a', '\r'}) UserTypes(form.nameBox, letter);
     Lines longer = lines;
     longer.push_back("Ada - Grand Master of Quintara");
     Require(program_.scene().files().ReadLines(joined) == longer, "the name stands below the others");
     platform_.boxAnswer = 6;
-    UserClicks(form.cmdRemove);
+    UserClicks(form.removeButton);
     Require(disk_.written[path].empty(), "all names are removed");
     form.Unload();
   }

@@ -43,10 +43,11 @@ class Game {
   void OpenProfile(const std::string& before) {
     disk_.written[path] = before;
     QuintaraForm& form = program_.quintara();
-    form.cmdMagnify.Enabled = true;
-    Require(UserClicks(form.cmdMagnify) == InputResult::Done, "the profile opens");
+    form.magnifyButton.Enabled = true;
+    Require(UserClicks(form.magnifyButton) == InputResult::Done, "the profile opens");
     const double record = before.size() > recordStart ? Val(before.substr(recordStart, 10)) : 0;
-    Require(form.HScroll1.Value.Get() == std::clamp<int>(CInt(record), 1, 15), "the setting is the record's");
+    Require(form.flightTimeBar.Value.Get() == std::clamp<int>(CInt(record), 1, 15),
+            "the setting is the record's");
   }
 
  private:

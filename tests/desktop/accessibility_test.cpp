@@ -58,34 +58,34 @@ TEST_F(AccessibilityTest, EveryRowOfTheTableIsAboutAControl) {
 }
 
 TEST_F(AccessibilityTest, NamesFollowWhatTheControlsShow) {
-  EXPECT_FALSE(WidgetOf(main.Label17).isVisible()) << "the score is not told before it shows";
+  EXPECT_FALSE(WidgetOf(main.score).isVisible()) << "the score is not told before it shows";
   OpenProfile();
   Do([&] {
-    main.VScroll1.Value = 325;
-    main.VScroll2.Value = 500;
-    main.Label31.Caption = "Real time to impact(sec)    12";
-    main.Label4.Caption = "  Do   this";
-    main.Label17.Caption = "7";
+    main.elevationBar.Value = 325;
+    main.velocityBar.Value = 500;
+    main.timeToImpact.Caption = "Real time to impact(sec)    12";
+    main.advice.Caption = "  Do   this";
+    main.score.Caption = "7";
   });
   const std::pair<const Object&, const char*> names[] = {
-      {main.VScroll1, "Elevation, 45 degrees"},
-      {main.VScroll2, "Muzzle velocity, 500 metres per second"},
-      {main.HScroll1, "Flight time, Real time to impact(sec) 12"},  // whose own value is the same
-      {main.cmdAdvanced, "Drag, OFF"},
-      {main.cmdSound, "Sound ON"},
-      {main.Label4, "Do this"},
-      {main.Label17, "Score, 7"}};
+      {main.elevationBar, "Elevation, 45 degrees"},
+      {main.velocityBar, "Muzzle velocity, 500 metres per second"},
+      {main.flightTimeBar, "Flight time, Real time to impact(sec) 12"},  // whose own value is the same
+      {main.dragButton, "Drag, OFF"},
+      {main.soundButton, "Sound ON"},
+      {main.advice, "Do this"},
+      {main.score, "Score, 7"}};
   for (const auto& [object, name] : names) EXPECT_EQ(NameOf(object), name);
-  EXPECT_EQ(Told(main.Image7).role(), QAccessible::Button);
+  EXPECT_EQ(Told(main.fireButton).role(), QAccessible::Button);
 }
 
 TEST_F(AccessibilityTest, ToolTipsSayWhatTerseButtonsDo) {
-  EXPECT_EQ(WidgetOf(main.cmdSearch).toolTip(), "Search for a target (S)");
+  EXPECT_EQ(WidgetOf(main.searchButton).toolTip(), "Search for a target (S)");
   OpenProfile();
-  auto& console = WidgetOf(main.Picture8);
-  const QPoint fire = WidgetOf(main.Image7).geometry().center();
-  QHelpEvent over(QEvent::ToolTip, fire, console.mapToGlobal(fire));
-  QApplication::sendEvent(&console, &over);
+  auto& panel = WidgetOf(main.firingPanel);
+  const QPoint fire = WidgetOf(main.fireButton).geometry().center();
+  QHelpEvent over(QEvent::ToolTip, fire, panel.mapToGlobal(fire));
+  QApplication::sendEvent(&panel, &over);
   EXPECT_EQ(QToolTip::text(), "Fire the shell (F)") << "the image is painted, but has one too";
   QToolTip::hideText();
 }

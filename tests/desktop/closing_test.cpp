@@ -35,7 +35,7 @@ TEST_F(ClosingTest, ABoxOutlivesAWindowThatWasClosedJustBefore) {
       boxIsLeft = closed.isNull() && QApplication::activeModalWidget() != nullptr;
       if (boxIsLeft) QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
     });
-    Click(program.masters().cmdRemove);
+    Click(program.masters().removeButton);
     QApplication::exit();
   };
   const auto closeTheDocument = [&] {
@@ -43,7 +43,7 @@ TEST_F(ClosingTest, ABoxOutlivesAWindowThatWasClosedJustBefore) {
     closed = &WindowOf(program.analysis());
     closed->close();
   };
-  Next([this] { Click(main.cmdHelp); });
+  Next([this] { Click(main.helpButton); });
   Next([&] {
     Next(closeTheDocument);
     QMenu* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
@@ -64,7 +64,7 @@ TEST_F(ClosingTest, TheMainWindowMayGoWhileABoxIsOpen) {
     waited = WindowOf(main).isVisible();
     QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
   });
-  Click(program.masters().cmdRemove);
+  Click(program.masters().removeButton);
   EXPECT_TRUE(waited);
   EXPECT_TRUE(program.scene().ended());
   for (Form* form : program.scene().forms()) EXPECT_EQ(session.WindowOf(*form), nullptr) << form->name();

@@ -49,17 +49,17 @@ class GameWindows : public testing::Test {
   // From the locked-on target on, without the wait for it. The gun is laid, so that it can be fired.
   void OpenProfile() {
     Do([this] {
-      main.cmdSearch.Enabled = false;
-      main.cmdMagnify.Enabled = true;
+      main.searchButton.Enabled = false;
+      main.magnifyButton.Enabled = true;
     });
-    Do([this] { main.cmdMagnify.Click.Raise(); });
-    Do([this] { main.Image7.Enabled = true; });
+    Do([this] { main.magnifyButton.Click.Raise(); });
+    Do([this] { main.fireButton.Enabled = true; });
   }
   // The offer to the player of a good game, in the list's open window.
   void TypeAName() {
     Do([this] {
-      program.masters().Picture1.Visible = true;
-      program.masters().Text1.SetFocus();
+      program.masters().namePanel.Visible = true;
+      program.masters().nameBox.SetFocus();
     });
   }
   // The controls that the Tab key walks through, from the window on.

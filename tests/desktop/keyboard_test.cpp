@@ -33,7 +33,7 @@ TEST_F(KeyboardTest, TabWalksThroughWhatCanBeUsed) {
   }
   Do([&] {
     program.analysis().Open(HelpTopic::Physics);
-    program.masters().Picture1.Visible = true;
+    program.masters().namePanel.Visible = true;
   });
   const std::pair<Form&, Names> orders[] = {
       {program.trajectory(), {"HScroll1", "HScroll2", "HScroll3", "cmdFire", "Slider1", "cmdCancel"}},
@@ -47,8 +47,8 @@ TEST_F(KeyboardTest, TabWalksThroughWhatCanBeUsed) {
 }
 
 TEST_F(KeyboardTest, TabGoesOnFromAControlThatCanNotBeUsedAnyMore) {
-  main.cmdSound.Click.Bind([&] { main.cmdSound.Enabled = false; });
-  WidgetOf(main.cmdSound).setFocus();
+  main.soundButton.Click.Bind([&] { main.soundButton.Enabled = false; });
+  WidgetOf(main.soundButton).setFocus();
   Press(Qt::Key_Space);
   EXPECT_EQ(NameOfFocus(main), "") << "a second blank presses nothing";
   Press(Qt::Key_Tab);
@@ -59,7 +59,8 @@ TEST_F(KeyboardTest, TabGoesOnFromAControlThatCanNotBeUsedAnyMore) {
 
 TEST_F(KeyboardTest, TheControlWithTheFocusIsMarked) {
   OpenProfile();
-  for (const Object* object : Objects{&main.VScroll1, &main.HScroll1, &main.Image7, &main.cmdHelp}) {
+  for (const Object* object :
+       Objects{&main.elevationBar, &main.flightTimeBar, &main.fireButton, &main.helpButton}) {
     QWidget& widget = WidgetOf(*object);
     const QRect place(widget.mapTo(&WindowOf(main), QPoint()), widget.size());
     WindowOf(main).setFocus();
@@ -80,31 +81,31 @@ TEST_F(KeyboardTest, BarsGoTheWayOfTheKeysWhicheverEndIsTheLarger) {
       EXPECT_EQ(bar.Value, value) << bar.name();
     }
   };
-  press(main.VScroll1, {{Qt::Key_Up, 339}, {Qt::Key_PageUp, 329}, {Qt::Key_Down, 330}});
-  EXPECT_EQ(main.Label1.Caption, "40") << "the handler ran";
-  press(main.VScroll2, {{Qt::Key_Up, 260}, {Qt::Key_Home, 750}, {Qt::Key_PageDown, 740}});
-  press(main.HScroll1, {{Qt::Key_Left, 14}, {Qt::Key_PageUp, 13}, {Qt::Key_End, 15}});
+  press(main.elevationBar, {{Qt::Key_Up, 339}, {Qt::Key_PageUp, 329}, {Qt::Key_Down, 330}});
+  EXPECT_EQ(main.elevation.Caption, "40") << "the handler ran";
+  press(main.velocityBar, {{Qt::Key_Up, 260}, {Qt::Key_Home, 750}, {Qt::Key_PageDown, 740}});
+  press(main.flightTimeBar, {{Qt::Key_Left, 14}, {Qt::Key_PageUp, 13}, {Qt::Key_End, 15}});
   TrajectoryForm& trajectory = program.trajectory();
   Open(trajectory);
-  Do([&] { trajectory.Slider1.Value = 50; });
-  press(trajectory.Slider1,
+  Do([&] { trajectory.distanceSlider.Value = 50; });
+  press(trajectory.distanceSlider,
         {{Qt::Key_PageUp, 45}, {Qt::Key_Left, 44}, {Qt::Key_Up, 43}, {Qt::Key_PageDown, 48}});
-  press(trajectory.HScroll1, {{Qt::Key_Right, 349}});
+  press(trajectory.elevationBar, {{Qt::Key_Right, 349}});
 }
 
 TEST_F(KeyboardTest, SpaceAndEnterPressWhatHasTheFocus) {
   Names heard;
-  main.cmdSound.Click.Bind([&] { heard.push_back("sound"); });
-  main.Image7.Click.Bind([&] { heard.push_back("fire"); });
+  main.soundButton.Click.Bind([&] { heard.push_back("sound"); });
+  main.fireButton.Click.Bind([&] { heard.push_back("fire"); });
   OpenProfile();
-  for (const Object* object : Objects{&main.cmdSound, &main.Image7}) {
+  for (const Object* object : Objects{&main.soundButton, &main.fireButton}) {
     WidgetOf(*object).setFocus();
     Press(Qt::Key_Space);
     Press(Qt::Key_Return);
     Press(Qt::Key_Enter, Qt::KeypadModifier);
   }
   EXPECT_EQ(heard, (Names{"sound", "sound", "sound", "fire", "fire", "fire"}));
-  Do([&] { main.Image7.Enabled = false; });
+  Do([&] { main.fireButton.Enabled = false; });
   EXPECT_EQ(NameOfFocus(main), "");
   Press(Qt::Key_Space);
   Press(Qt::Key_Return);
@@ -113,18 +114,18 @@ TEST_F(KeyboardTest, SpaceAndEnterPressWhatHasTheFocus) {
 
 TEST_F(KeyboardTest, LettersWorkTheConsoleAndNotWhatCannotBeUsed) {
   Names heard;
-  main.cmdSearch.Click.Bind([&] { heard.push_back("search"); });
-  main.Image7.Click.Bind([&] { heard.push_back("fire"); });
-  main.cmdReset.Click.Bind([&] { heard.push_back("reset"); });
-  main.cmdSound.Click.Bind([&] { heard.push_back("sound"); });
+  main.searchButton.Click.Bind([&] { heard.push_back("search"); });
+  main.fireButton.Click.Bind([&] { heard.push_back("fire"); });
+  main.resetButton.Click.Bind([&] { heard.push_back("reset"); });
+  main.soundButton.Click.Bind([&] { heard.push_back("sound"); });
   for (const auto modifier : {Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier})
     Press(Qt::Key_S, modifier);
   for (const Qt::Key key : {Qt::Key_F, Qt::Key_R, Qt::Key_O}) Press(key);
   EXPECT_EQ(heard, (Names{"search", "search", "sound"}));
   heard.clear();
   OpenProfile();
-  Do([&] { main.cmdReset.Enabled = true; });
-  WidgetOf(main.VScroll1).setFocus();
+  Do([&] { main.resetButton.Enabled = true; });
+  WidgetOf(main.elevationBar).setFocus();
   for (const Qt::Key key : {Qt::Key_F, Qt::Key_R, Qt::Key_S}) Press(key);
   EXPECT_EQ(heard, (Names{"fire", "reset"}));
   QKeyEvent held(QEvent::KeyPress, Qt::Key_F, Qt::NoModifier, "f", true);
@@ -134,8 +135,8 @@ TEST_F(KeyboardTest, LettersWorkTheConsoleAndNotWhatCannotBeUsed) {
   MastersForm& masters = program.masters();
   Open(masters);
   TypeAName();
-  QTest::keyClicks(&WidgetOf(masters.Text1), "F. S. Major");
-  EXPECT_EQ(masters.Text1.Text.Get(), "F. S. Major");
+  QTest::keyClicks(&WidgetOf(masters.nameBox), "F. S. Major");
+  EXPECT_EQ(masters.nameBox.Text.Get(), "F. S. Major");
   EXPECT_EQ(heard.size(), 2U);
 }
 
@@ -166,7 +167,7 @@ TEST_F(KeyboardTest, EscapeClosesSideWindowsOnly) {
   MastersForm& masters = program.masters();
   Open(masters);
   std::vector<int> keys;
-  masters.Text1.KeyPress.Bind([&](std::int16_t key) { keys.push_back(key); });
+  masters.nameBox.KeyPress.Bind([&](std::int16_t key) { keys.push_back(key); });
   TypeAName();
   Press(Qt::Key_Escape);
   EXPECT_EQ(keys, std::vector<int>{27});
@@ -177,18 +178,18 @@ TEST_F(KeyboardTest, ADocumentIsReadAndCopiedWithKeys) {
   AnalysisForm& analysis = program.analysis();
   Do([&] {
     analysis.Open(HelpTopic::Rules);
-    analysis.rtbMath.TextRTF = std::string("{\\rtf1 one two\\par three}");
+    analysis.documentBox.TextRTF = std::string("{\\rtf1 one two\\par three}");
   });
   Activate(analysis);
   QGuiApplication::clipboard()->setText("before");
-  WidgetOf(analysis.rtbMath).setFocus();
+  WidgetOf(analysis.documentBox).setFocus();
   Press(Qt::Key_C, Qt::ControlModifier);
   EXPECT_EQ(QGuiApplication::clipboard()->text(), "before") << "nothing is selected";
   for (int i = 0; i < 3; ++i) Press(Qt::Key_Right, Qt::ShiftModifier);
-  EXPECT_TRUE(analysis.cmdCopy.Enabled);
+  EXPECT_TRUE(analysis.copyButton.Enabled);
   Press(Qt::Key_C, Qt::ControlModifier);
   EXPECT_EQ(QGuiApplication::clipboard()->text(), "one");
-  WidgetOf(analysis.cmdCancel).setFocus();
+  WidgetOf(analysis.cancelButton).setFocus();
   QGuiApplication::clipboard()->clear();
   Press(Qt::Key_C, Qt::ControlModifier);
   EXPECT_EQ(QGuiApplication::clipboard()->text(), "one") << "wherever in the window the focus is";

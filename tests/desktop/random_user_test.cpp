@@ -43,7 +43,7 @@ class RandomUserTest : public GameWindows {
   QPoint AnyPlaceOn(const QWidget& widget) {
     return {Any(std::max(widget.width(), 1)), Any(std::max(widget.height(), 1))};
   }
-  bool EndsTheGame(const QWidget* control) { return control == WindowOf(main).WidgetOf(main.cmdCancel); }
+  bool EndsTheGame(const QWidget* control) { return control == WindowOf(main).WidgetOf(main.cancelButton); }
 
   void Answer(QMenu& menu) {
     ++menusAnswered;
@@ -75,9 +75,9 @@ class RandomUserTest : public GameWindows {
     session.Run([this] {
       Dispatcher& dispatcher = program.scene().dispatcher();
       dispatcher.Advance(Any(3000));
-      UserClicks(main.cmdSearch);
-      UserClicks(main.cmdMagnify);
-      UserClicks(main.Image7);
+      UserClicks(main.searchButton);
+      UserClicks(main.magnifyButton);
+      UserClicks(main.fireButton);
     });
   }
   void OpenAWindow() {

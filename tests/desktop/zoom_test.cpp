@@ -179,7 +179,7 @@ TEST_F(GameZoomTest, KeysChangeTheSizeOfAllWindows) {
   TypeAName();
   Press(Qt::Key_Plus, Qt::ControlModifier);
   EXPECT_EQ(session.zoom(), Zoom()) << "a text box has the focus";
-  EXPECT_EQ(program.masters().Text1.Text.Get(), "");
+  EXPECT_EQ(program.masters().nameBox.Text.Get(), "");
 }
 
 TEST_F(GameZoomTest, AWindowThatIsTooLargeFitsTheScreenInProportion) {
@@ -191,8 +191,8 @@ TEST_F(GameZoomTest, AWindowThatIsTooLargeFitsTheScreenInProportion) {
   EXPECT_NEAR(window.width() / natural.width(), window.height() / natural.height(), 0.005);
   EXPECT_GT(window.height(), screen.height() * 9 / 10);
   int clicks = 0;
-  main.cmdSound.Click.Bind([&] { ++clicks; });
-  const Rectangle button = main.cmdSound.Surface(), panel = main.Picture1.Surface();
+  main.soundButton.Click.Bind([&] { ++clicks; });
+  const Rectangle button = main.soundButton.Surface(), panel = main.console.Surface();
   const QPointF middle(panel.left + button.left + button.width / 2,
                        panel.top + button.top + button.height / 2);
   const QPoint at = (middle / twipsPerPixel * window.zoom().factor()).toPoint();

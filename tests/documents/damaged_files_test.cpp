@@ -96,16 +96,16 @@ TEST_F(DamagedFile, TheListOfMastersLosesOneEntryAtMost) {
     platform.memory.written["/quintara/Masters.txt"] = bytes;
     form.Unload();
     form.Show();
-    const std::vector<std::string>& shown = form.List1.items();
+    const std::vector<std::string>& shown = form.list.items();
     const auto before = Alike(names.begin(), names.end(), shown.begin(), shown.end());
     const auto behind = Alike(names.rbegin(), names.rend(), shown.rbegin(), shown.rend());
     // A damaged line end makes one line of two.
     ASSERT_TRUE(bytes.size() < whole.size() || before + behind + 2 >= std::ssize(names)) << bytes;
-    UserTypes(form.Text1, 13);
-    const std::vector<std::string> saved = form.List1.items();
+    UserTypes(form.nameBox, 13);
+    const std::vector<std::string> saved = form.list.items();
     form.Unload();
     form.Show();
-    ASSERT_EQ(form.List1.items(), saved);
+    ASSERT_EQ(form.list.items(), saved);
   });
 }
 
@@ -114,9 +114,9 @@ TEST_F(DamagedFile, TheRecordFileGivesASettingInRange) {
   QuintaraForm& form = program.quintara();
   DamageInEveryWay(before + setting + "another   ", AllBytes, [&](const std::string& bytes, std::size_t at) {
     platform.memory.written["/quintara/extra.txt"] = bytes;
-    form.cmdMagnify.Enabled = true;
-    UserClicks(form.cmdMagnify);
-    const std::int16_t taken = form.HScroll1.Value;
+    form.magnifyButton.Enabled = true;
+    UserClicks(form.magnifyButton);
+    const std::int16_t taken = form.flightTimeBar.Value;
     const bool isWhole = at >= before.size() + setting.size() || (at < before.size() && bytes.size() > at);
     ASSERT_TRUE(taken >= 1 && taken <= 15) << taken;
     ASSERT_TRUE(taken == 7 || !isWhole) << taken;

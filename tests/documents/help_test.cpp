@@ -19,7 +19,7 @@ class HelpTest : public ::testing::Test, protected RunningGame {
   }
   void Choose(const char* item) {
     platform.menuAnswers = {item};
-    Click(form.cmdHelp);
+    Click(form.helpButton);
     platform.log.erase(platform.log.begin());  // the popup itself
   }
 
@@ -43,12 +43,12 @@ TEST_F(HelpTest, EachTopicLaysTheWindowOutAnew) {
     EXPECT_EQ(platform.log, Log{"show Analysis"});
     platform.log.clear();
     EXPECT_EQ(analysis.Caption, row.caption);
-    EXPECT_EQ(analysis.rtbMath.PlainText(), row.text);
+    EXPECT_EQ(analysis.documentBox.PlainText(), row.text);
     EXPECT_TRUE(analysis.Left == row.left && analysis.Top == row.top && analysis.Height == row.height)
         << row.item;
-    for (const CommandButton* button : {&analysis.cmdTrajectory, &analysis.cmdFreeFall})
+    for (const CommandButton* button : {&analysis.simulatorButton, &analysis.benchButton})
       EXPECT_EQ(button->Visible, row.demonstrations) << row.item;
-    for (const Label* name : {&form.Label28, &form.Label29})
+    for (const Label* name : {&form.valleyName, &form.peakName})
       EXPECT_EQ(name->Visible, row.placeNames) << row.item;
   }
 }
@@ -56,32 +56,32 @@ TEST_F(HelpTest, EachTopicLaysTheWindowOutAnew) {
 TEST_F(HelpTest, CopiesASelection) {
   Choose("mnuRules");
   platform.log.clear();
-  EXPECT_EQ(UserClicks(analysis.cmdCopy), InputResult::NoTarget);
-  UserSelects(analysis.rtbMath, 3, 5);
-  Click(analysis.cmdCopy);
-  UserSelects(analysis.rtbMath, 3, 0);
-  Click(analysis.cmdCopy);
+  EXPECT_EQ(UserClicks(analysis.copyButton), InputResult::NoTarget);
+  UserSelects(analysis.documentBox, 3, 5);
+  Click(analysis.copyButton);
+  UserSelects(analysis.documentBox, 3, 0);
+  Click(analysis.copyButton);
   EXPECT_EQ(platform.log, Log{"clipboard Rules"}) << "the second time nothing is selected";
   Choose("mnuPrint");
-  EXPECT_TRUE(analysis.cmdCopy.Enabled) << "nothing switches it off while the window is open";
+  EXPECT_TRUE(analysis.copyButton.Enabled) << "nothing switches it off while the window is open";
 }
 
 TEST_F(HelpTest, CancelClosesTheDemonstrationsAndTakesTheNamesAway) {
   Choose("mnuPhysics");
-  Click(analysis.cmdFreeFall);
-  Click(analysis.cmdTrajectory);
+  Click(analysis.benchButton);
+  Click(analysis.simulatorButton);
   EXPECT_EQ(program.projectile().Left, form.Left + 6200);
   EXPECT_EQ(program.trajectory().Top, form.Top + 1500);
   program.trajectory().Left = 10.0;
-  Click(analysis.cmdTrajectory);
+  Click(analysis.simulatorButton);
   EXPECT_EQ(program.trajectory().Left, form.Left + 6200) << "a second click brings it back to its place";
   Choose("mnuScenario");
   EXPECT_TRUE(program.projectile().IsVisible()) << "another document leaves the demonstrations open";
-  UserSelects(analysis.rtbMath, 0, 2);
+  UserSelects(analysis.documentBox, 0, 2);
   platform.log.clear();
-  Click(analysis.cmdCancel);
+  Click(analysis.cancelButton);
   EXPECT_EQ(platform.log, (Log{"unload Analysis", "unload frmTrajectory", "unload projectile"}));
-  EXPECT_FALSE(form.Label28.Visible || form.Label29.Visible);
+  EXPECT_FALSE(form.valleyName.Visible || form.peakName.Visible);
   EXPECT_TRUE(analysis.loaded() && !analysis.IsVisible()) << "loaded again by the last touch, hidden";
   EXPECT_EQ(analysis.Caption, "Analysis of Quintara");
 
@@ -90,35 +90,35 @@ TEST_F(HelpTest, CancelClosesTheDemonstrationsAndTakesTheNamesAway) {
   platform.log.clear();
   UserCloses(analysis);
   EXPECT_EQ(platform.log, Log{"unload Analysis"}) << "the frame closes the document alone";
-  EXPECT_TRUE(form.Label28.Visible);
+  EXPECT_TRUE(form.valleyName.Visible);
 }
 
 TEST_F(HelpTest, AMissingDocumentIsNamedInItsBox) {
   fs::remove(folder.path() / "Help" / "Rules.rtf");
   Choose("mnuReadme");
-  EXPECT_EQ(form.txtReadme.PlainText(), "Read me.");
-  Click(form.cmdCloseReadme);
-  EXPECT_FALSE(form.txtReadme.Visible || form.cmdCloseReadme.Visible);
+  EXPECT_EQ(form.readme.PlainText(), "Read me.");
+  Click(form.closeReadmeButton);
+  EXPECT_FALSE(form.readme.Visible || form.closeReadmeButton.Visible);
   fs::remove(folder.path() / "Readme.rtf");
   fs::create_directory(folder.path() / "Readme.rtf");
   Choose("mnuRules");
-  EXPECT_EQ(analysis.rtbMath.PlainText(), "The document Help\\Rules.rtf could not be read.");
+  EXPECT_EQ(analysis.documentBox.PlainText(), "The document Help\\Rules.rtf could not be read.");
   EXPECT_TRUE(analysis.IsVisible());
   Choose("mnuReadme");
-  EXPECT_EQ(form.txtReadme.PlainText(), "The document Readme.rtf could not be read.");
+  EXPECT_EQ(form.readme.PlainText(), "The document Readme.rtf could not be read.");
 }
 
 TEST_F(HelpTest, ClosingTheMainFormUnloadsTheOthersInTheirOrder) {
   Choose("mnuAbout");
   EXPECT_EQ(program.about().Left, (28800.0 - 4395) / 2);
   EXPECT_EQ(program.about().Top, (16200.0 - 1965) / 2);
-  Click(program.about().cmdOK);
+  Click(program.about().okButton);
   EXPECT_FALSE(program.about().loaded());
   Choose("mnuAbout");
   Choose("mnuPhysics");
   program.masters().Show();
-  Click(analysis.cmdTrajectory);
-  Click(analysis.cmdFreeFall);
+  Click(analysis.simulatorButton);
+  Click(analysis.benchButton);
   platform.log.clear();
   UserCloses(form);
   EXPECT_EQ(platform.log, (Log{"unload projectile", "unload frmTrajectory", "unload frmMasters",

@@ -16,11 +16,11 @@ class MastersTest : public ::testing::Test, protected RunningGame {
   void Put(const std::string& bytes) const { folder.Put("Masters.txt", bytes); }
   // The offer of the game, and a name typed into it.
   void Enter(const char* score, const std::string& name) {
-    form.Label17.Caption = score;
+    form.score.Caption = score;
     masters.Show();
-    masters.Picture1.Visible = true;
-    for (const char c : name) UserTypes(masters.Text1, c);
-    UserTypes(masters.Text1, 13);
+    masters.namePanel.Visible = true;
+    for (const char c : name) UserTypes(masters.nameBox, c);
+    UserTypes(masters.nameBox, 13);
   }
 
   MastersForm& masters = program.masters();
@@ -32,11 +32,11 @@ TEST_F(MastersTest, EnterSavesTheListWithATitleFrom35PointsOn) {
   EXPECT_EQ(folder.Bytes("Masters.txt"), "one\r\n\r\n\xff\xfe\r\n");
   EXPECT_EQ(platform.log.back(), "sound gong.wav");
   platform.log.clear();
-  UserTypes(masters.Text1, 13);
+  UserTypes(masters.nameBox, 13);
   EXPECT_TRUE(platform.log.empty()) << "one offer takes one name";
   Put("");
   masters.Unload();
-  Click(form.cmdSound);
+  Click(form.soundButton);
   platform.log.clear();
   Enter("40", "");
   EXPECT_EQ(folder.Bytes("Masters.txt"), " - Master of Quintara\r\n")
@@ -46,14 +46,14 @@ TEST_F(MastersTest, EnterSavesTheListWithATitleFrom35PointsOn) {
 
 TEST_F(MastersTest, AFreshWindowReadsTheFileAfresh) {
   masters.Show();
-  EXPECT_EQ(masters.List1.ListCount(), 0);
+  EXPECT_EQ(masters.list.ListCount(), 0);
   EXPECT_EQ(platform.log, std::vector<std::string>{"show frmMasters"}) << "a missing file is an empty list";
   Put("one\r\ntwo\r\n");
   masters.Show();
-  EXPECT_EQ(masters.List1.ListCount(), 0) << "a second opening runs no Load";
-  Click(masters.cmdCancel);
+  EXPECT_EQ(masters.list.ListCount(), 0) << "a second opening runs no Load";
+  Click(masters.cancelButton);
   masters.Show();
-  EXPECT_EQ(masters.List1.ListCount(), 2);
+  EXPECT_EQ(masters.list.ListCount(), 2);
 }
 
 TEST_F(MastersTest, WhatCannotBeReadIsNeverOverwritten) {
@@ -61,7 +61,7 @@ TEST_F(MastersTest, WhatCannotBeReadIsNeverOverwritten) {
   Enter("40", "Ada");
   EXPECT_TRUE(fs::is_directory(folder.path() / "Masters.txt"));
   EXPECT_EQ(platform.log[0].substr(0, 4), "box ");
-  EXPECT_EQ(masters.List1.List(0), "Ada - Master of Quintara") << "the entry stays in the window";
+  EXPECT_EQ(masters.list.List(0), "Ada - Master of Quintara") << "the entry stays in the window";
   masters.Unload();
   fs::remove(folder.path() / "Masters.txt");
   Put("");
@@ -80,8 +80,8 @@ TEST_F(MastersTest, ALongListIsWrittenBackWhole) {
 
 TEST_F(MastersTest, TheWindowFromTheHelpMenuOffersNothing) {
   platform.menuAnswers = {"mnuMasters"};
-  Click(form.cmdHelp);
-  EXPECT_FALSE(masters.Picture1.Visible);
+  Click(form.helpButton);
+  EXPECT_FALSE(masters.namePanel.Visible);
   EXPECT_EQ(masters.Left, (28800.0 - 11175) / 2);
   EXPECT_EQ(masters.Top, (16200.0 - 9360) / 2);
 }

@@ -91,26 +91,26 @@ struct Gun : RunningGame {
   Gun() { Start(); }
 
   void Lay(double elevation, double velocity) {
-    UserDragsTo(form.VScroll1, Short(370 - elevation));
-    UserDragsTo(form.VScroll2, Short(velocity));
+    UserDragsTo(form.elevationBar, Short(370 - elevation));
+    UserDragsTo(form.velocityBar, Short(velocity));
   }
   void Fire() {
-    Click(form.Image7);
-    while (form.tmrShell.Enabled) Advance(17);
+    Click(form.fireButton);
+    while (form.shellTimer.Enabled) Advance(17);
   }
   void TurnDragOn(double constant) {
     chance.Queue(constant * 100 - 0.05);
-    Click(form.cmdAdvanced);
-    ASSERT_EQ(Val(form.Label15.Caption), constant);
+    Click(form.dragButton);
+    ASSERT_EQ(Val(form.dragConstant.Caption), constant);
   }
   // Next target, after the pieces of the last one have come down.
   void GoOn() {
     Advance(4000);
-    Click(form.cmdReset);
+    Click(form.resetButton);
     OpenProfile();
   }
-  double Actual() const { return Val(form.Label17.Caption); }
-  double Max() const { return Val(form.Label23.Caption); }
+  double Actual() const { return Val(form.score.Caption); }
+  double Max() const { return Val(form.bestScore.Caption); }
 
   // Where FireTo sends a shell.
   static constexpr double target = 22052, besideIt = 12000;
@@ -124,7 +124,7 @@ inline bool Hits(const std::string& range, double elevation, double velocity, do
     for (int altitude = 15; altitude <= 6000; altitude += 25) {
       Gun gun;
       gun.OpenProfile(altitude);
-      all.emplace(gun.form.Label5.Caption.Get().substr(11, 4), altitude);
+      all.emplace(gun.form.targetTag.Caption.Get().substr(11, 4), altitude);
     }
     return all;
   }();
@@ -133,7 +133,7 @@ inline bool Hits(const std::string& range, double elevation, double velocity, do
   for (auto found = first; found != last; ++found) {
     Gun gun;
     gun.OpenProfile(found->second);
-    UserDragsTo(gun.form.HScroll1, Short(flightTime));
+    UserDragsTo(gun.form.flightTimeBar, Short(flightTime));
     gun.Lay(elevation, velocity);
     gun.Fire();
     if (gun.Actual() == 5) ++hits;

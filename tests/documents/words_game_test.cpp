@@ -108,11 +108,11 @@ TEST(RulesTest, TheConsoleReachesAsFarAsTheySay) {
     Gun gun;
     gun.OpenProfile();
     gun.Lay(end == 0 ? 0 : 90, end == 0 ? 0 : 1000);
-    EXPECT_EQ(Val(gun.form.Label1.Caption), elevations[end]);
-    EXPECT_EQ(Val(gun.form.Label6.Caption), velocities[end]);
+    EXPECT_EQ(Val(gun.form.elevation.Caption), elevations[end]);
+    EXPECT_EQ(Val(gun.form.velocity.Caption), velocities[end]);
     gun.chance.Queue(end == 0 ? 0 : 0.999);
-    gun.Click(gun.form.cmdAdvanced);
-    EXPECT_EQ(Val(gun.form.Label15.Caption), constants[end]);
+    gun.Click(gun.form.dragButton);
+    EXPECT_EQ(Val(gun.form.dragConstant.Caption), constants[end]);
   }
 }
 
@@ -165,12 +165,12 @@ TEST(RulesTest, TheSampleGameEndsAsTheySay) {
     if (event == "Drag switched on") gun.TurnDragOn(0.005);
     if (event.find("Reset") != std::string::npos) gun.GoOn();
     if (event.starts_with("Shell")) {
-      EXPECT_EQ(gun.form.Label15.Caption != "0", event.ends_with("with drag")) << event;
+      EXPECT_EQ(gun.form.dragConstant.Caption != "0", event.ends_with("with drag")) << event;
       EXPECT_EQ(Val(event.substr(6)), ++shells);
       gun.FireTo(event.find("hits") != std::string::npos ? Gun::target : Gun::besideIt, -1);
     }
-    EXPECT_EQ(gun.form.Label17.Caption, row[1]) << event;
-    EXPECT_EQ(gun.form.Label23.Visible ? gun.form.Label23.Caption.Get() : "", row[2]) << event;
+    EXPECT_EQ(gun.form.score.Caption, row[1]) << event;
+    EXPECT_EQ(gun.form.bestScore.Visible ? gun.form.bestScore.Caption.Get() : "", row[2]) << event;
   }
   EXPECT_EQ(shells, 6);
 }
@@ -183,7 +183,7 @@ TEST(RulesTest, TheBestGameAndTheMastersNeedThePointsTheySay) {
     gun.FireTo(Gun::target, -1);
     gun.GoOn();
   }
-  EXPECT_FALSE(gun.form.cmdAdvanced.Enabled);
+  EXPECT_FALSE(gun.form.dragButton.Enabled);
   gun.FireTo(Gun::target, -1);
   EXPECT_EQ(gun.Actual(), Numbers(rules, "= [N] points")[0]);
 
@@ -199,13 +199,13 @@ TEST(RulesTest, TheBestGameAndTheMastersNeedThePointsTheySay) {
     Gun other;
     other.OpenProfile();
     for (int shell = 1; shell <= 5; ++shell) other.FireTo(Gun::besideIt, -1);
-    other.form.Label17.Caption = ToText(score - 5);
+    other.form.score.Caption = ToText(score - 5);
     other.FireTo(Gun::target, -1);
     MastersForm& masters = other.program.masters();
     EXPECT_EQ(masters.IsVisible(), entry != nullptr) << score;
     if (entry == nullptr) continue;
-    UserTypes(masters.Text1, 13);
-    EXPECT_EQ(masters.List1.List(0), entry);
+    UserTypes(masters.nameBox, 13);
+    EXPECT_EQ(masters.list.List(0), entry);
   }
 }
 

@@ -28,19 +28,19 @@ TEST(AnalysisTest, TheProjectileWindowShowsItsNumbers) {
   // What a label says while the hand stands on each number, by that number.
   using Readings = std::map<int, std::string>;
   Readings across, fall, velocity;
-  const auto run = [&](CommandButton& ball, ControlArray<Label>& marks, Readings& metres) {
-    for (gun.Click(ball); bench.tmrStart.Enabled; gun.Advance(50)) {
-      const double turn = std::atan2(bench.Line8.X2 - 500, 500 - bench.Line8.Y2) / std::numbers::pi * 4;
+  const auto run = [&](CommandButton& button, ControlArray<Label>& marks, Readings& metres) {
+    for (gun.Click(button); bench.ballTimer.Enabled; gun.Advance(50)) {
+      const double turn = std::atan2(bench.dialHand.X2 - 500, 500 - bench.dialHand.Y2) / std::numbers::pi * 4;
       const auto hand = static_cast<std::int16_t>(std::lround(turn + 8) % 8);
       if (hand == 0) continue;
       metres[hand] = marks(static_cast<std::int16_t>(hand - 1)).Caption;
-      velocity[hand] = bench.Label14.Caption;
+      velocity[hand] = bench.vyText.Caption;
     }
-    gun.Click(bench.cmdReset);
+    gun.Click(bench.resetButton);
   };
   bench.Show();
-  run(bench.cmdBall1, bench.Label8, across);
-  run(bench.cmdBall2, bench.Label4, fall);
+  run(bench.ball1Button, bench.railNumbers, across);
+  run(bench.ball2Button, bench.fallNumbers, fall);
   const auto table = Rows(analysis, "\n\t[N]\t[N] m\t[N] m\t[N] m/s");
   EXPECT_EQ(table.size(), 6u);
   for (const auto& row : table) {
@@ -58,10 +58,10 @@ struct Simulator : Gun {
   Simulator() { window.Show(); }
   // In the order that the text asks for; the last bar is moved even where it stands right.
   void Set(double drag, double velocity, double elevation) {
-    UserDragsTo(window.HScroll3, Short(drag * 100));
-    UserDragsTo(window.HScroll2, Short(velocity));
-    UserDragsTo(window.HScroll1, Short(370 - elevation + (elevation > 20 ? 1 : -1)));
-    UserDragsTo(window.HScroll1, Short(370 - elevation));
+    UserDragsTo(window.dragBar, Short(drag * 100));
+    UserDragsTo(window.velocityBar, Short(velocity));
+    UserDragsTo(window.elevationBar, Short(370 - elevation + (elevation > 20 ? 1 : -1)));
+    UserDragsTo(window.elevationBar, Short(370 - elevation));
   }
   TrajectoryForm& window = program.trajectory();
 };
@@ -73,9 +73,10 @@ TEST(AnalysisTest, TheSimulatorShowsItsNumbers) {
   EXPECT_GE(table.size(), 5u);
   for (const auto& row : table) {
     simulator.Set(std::stod(row[2]), std::stod(row[1]), std::stod(row[0]));
-    const std::vector<std::string> shown = {
-        window.Label5.Caption,  window.Label6.Caption,  window.Label11.Caption, window.Label20.Caption,
-        window.Label21.Caption, window.Label27.Caption, window.Label29.Caption};
+    const std::vector<std::string> shown = {window.elevationText.Caption, window.velocityText.Caption,
+                                            window.dragText.Caption,      window.rangeText.Caption,
+                                            window.heightText.Caption,    window.speedText.Caption,
+                                            window.timeText.Caption};
     EXPECT_EQ(shown, row);
   }
   for (const auto& row : Rows(analysis, "\n\t[N]\t[N]\t[N]\t[N]\t[N]\t[N](?=\n)")) {
@@ -95,7 +96,7 @@ TEST(AnalysisTest, TheSimulatorAnswersItsQuestions) {
   std::vector<double> farthest = {0, 0};
   for (int angle = 20; angle <= 80; ++angle) {
     simulator.Set(question[1], question[0], angle);
-    if (const double range = Val(window.Label20.Caption); range > farthest[1])
+    if (const double range = Val(window.rangeText.Caption); range > farthest[1])
       farthest = {1.0 * angle, range};
   }
   EXPECT_EQ(farthest, answer);
@@ -105,9 +106,9 @@ TEST(AnalysisTest, TheSimulatorAnswersItsQuestions) {
   simulator.Set(0, shot[1], shot[0]);
   std::vector<double> highest(4);
   for (int position = 1; position <= 90; ++position) {
-    UserDragsTo(window.Slider1, position);
-    const std::vector<double> shown = {Val(window.Label20.Caption), Val(window.Label21.Caption),
-                                       Val(window.Label23.Caption), Val(window.Label27.Caption)};
+    UserDragsTo(window.distanceSlider, position);
+    const std::vector<double> shown = {Val(window.rangeText.Caption), Val(window.heightText.Caption),
+                                       Val(window.vxText.Caption), Val(window.speedText.Caption)};
     if (shown[1] > highest[1]) highest = shown;
     EXPECT_EQ(shown[2], top[2]) << "everywhere";
   }
@@ -139,9 +140,9 @@ TEST(AnalysisTest, TheStepMovesTheImpactAsItSays) {
   for (const auto& row : table) {
     Gun gun;
     gun.OpenProfile();
-    UserDragsTo(gun.form.HScroll1, Short(settings.at(row[0])));
+    UserDragsTo(gun.form.flightTimeBar, Short(settings.at(row[0])));
     gun.Lay(shot[0], shot[1]);
-    const std::string& time = gun.form.Label31.Caption;
+    const std::string& time = gun.form.timeToImpact.Caption;
     EXPECT_EQ(time.substr(time.find_first_of("0123456789")), row[3] + " (sec)");
     const std::int64_t start = gun.program.scene().dispatcher().now();
     gun.Fire();
@@ -179,7 +180,7 @@ TEST(AnalysisTest, DragShortensTheShotAsItSays) {
   for (const auto& row : table) {
     Gun gun;
     gun.OpenProfile();
-    UserDragsTo(gun.form.HScroll1, 1);
+    UserDragsTo(gun.form.flightTimeBar, 1);
     if (row[0] > 0) gun.TurnDragOn(row[0]);
     gun.Lay(60, 500);
     gun.Fire();
@@ -257,7 +258,7 @@ TEST(CodeTest, ItsLinesFlyTheShell) {
   gun.OpenProfile();
   gun.TurnDragOn(0.01);
   gun.Lay(61, 430);
-  gun.Click(gun.form.Image7);
+  gun.Click(gun.form.fireButton);
   Reckoner shell;
   shell.values = {{"elevation", 61}, {"velocity", 430}, {"k", 0.01}, {"dt", Single(0.885)},
                   {"x", 0},          {"y", 0},          {"t", 0}};
@@ -277,7 +278,7 @@ TEST(CodeTest, ItsStepByHandIsRight) {
   const auto shot = Numbers(code, "Elevation [N] degrees, velocity [N] m/s, no drag, flight time on Fast");
   gun.Lay(shot[0] + 1, shot[1]);
   gun.Lay(shot[0], shot[1]);
-  gun.Click(gun.form.Image7);
+  gun.Click(gun.form.fireButton);
   const auto before = Numbers(code, "vx = [N] m/s and vy = [N] m/s");
   EXPECT_NEAR(gun.form.flight.vx, before[0], tenth);
   EXPECT_NEAR(gun.form.flight.vy, before[1], tenth);
@@ -299,13 +300,13 @@ TEST(CodeTest, ItsStepsAreAsLongAsItSays) {
   Simulator simulator;
   TrajectoryForm& window = simulator.window;
   simulator.Set(0, 100, 45);
-  UserDragsTo(window.Slider1, 1);
+  UserDragsTo(window.distanceSlider, 1);
   const double slider = Numbers(code, "Simulator, curve and slider\t[N] s")[0];
-  const double sliderSteps = Val(window.Label29.Caption) / slider;
+  const double sliderSteps = Val(window.timeText.Caption) / slider;
   EXPECT_NEAR(sliderSteps, std::round(sliderSteps), 0.09);
-  simulator.Click(window.cmdFire);
+  simulator.Click(window.fireButton);
   simulator.Advance(100);
-  EXPECT_EQ(Val(window.Label29.Caption), Numbers(code, "Simulator, Fire button\t[N] s")[0]);
+  EXPECT_EQ(Val(window.timeText.Caption), Numbers(code, "Simulator, Fire button\t[N] s")[0]);
   const double slow = Numbers(code, "flight time on Slow\t[N] s")[0];
   EXPECT_EQ(Numbers(code, "each notch towards Fast\t[N] s more")[0], slow);
   const auto fast = Numbers(code, "flight time on Fast\t[N] \u00D7 [N] = [N] s");

@@ -13,9 +13,9 @@ class CollisionTest : public ::testing::Test, protected RunningGame {
     Start();
     OpenProfile();  // 22.052 km: the mountain is 2499 twips high
     platform.log.clear();
-    form.HScroll1.Value = 1;
+    form.flightTimeBar.Value = 1;
   }
-  // Puts the shell's centre at a place of Picture11.
+  // Puts the shell's centre at a place of the mountain's box.
   void FireToProfile(double x, double y) { FireTo((x + 752.5) / 0.438, (height + 677.5 - y) / 0.55); }
   bool Burst() const { return std::count(platform.log.begin(), platform.log.end(), "sound bomb.wav") > 0; }
 
@@ -28,22 +28,24 @@ TEST_F(CollisionTest, EachSegmentGuardsItsTriangle) {
     double x, y;  // just inside
     const Line& run;
   } cases[] = {
-      {form.Line27, 599, 0.7 * height + 5, form.Line31},  // in the triangle of Line31, too: the earlier wins
-      {form.Line31, 1000, 0.35 * height, form.Line32},   {form.Line32, 1300, 0.15 * height, form.Line33},
-      {form.Line33, 1340, 0.15 * height, form.Line34},   {form.Line34, 1800, 0.4 * height, form.Line35},
-      {form.Line35, 2790, 0.77 * height, form.Line35}};
+      {form.slope1, 599, 0.7 * height + 5, form.slope2},  // in the triangle of slope2, too: the earlier wins
+      {form.slope2, 1000, 0.35 * height, form.slope3},   {form.slope3, 1300, 0.15 * height, form.slope4},
+      {form.slope4, 1340, 0.15 * height, form.slope5},   {form.slope5, 1800, 0.4 * height, form.slope6},
+      {form.slope6, 2790, 0.77 * height, form.slope6}};
   for (const auto& [segment, x, y, run] : cases) {
     platform.log.clear();
-    form.Label21.Caption = "1";
+    form.shellInGun.Caption = "1";
     FireToProfile(x, y);
     EXPECT_TRUE(Burst()) << segment.name();
-    EXPECT_FALSE(form.tmrShell.Enabled || form.Shape1(1).Visible) << segment.name();
+    EXPECT_FALSE(form.shellTimer.Enabled || form.shells(1).Visible) << segment.name();
     // The fan's first ray is the normal of the slope, whose run is the next segment's.
     const double slope = std::atan((segment.Y1 - segment.Y2) / (run.X2 - run.X1));
-    EXPECT_NEAR(form.Line28.X2, x, 0.1);
-    EXPECT_NEAR(form.Line28.Y2, y, 0.1);
-    EXPECT_NEAR(form.Line28.X1, form.Line28.X2 - 100 * std::cos(3.1416 / 2 - slope), 0.01) << segment.name();
-    EXPECT_NEAR(form.Line28.Y1, form.Line28.Y2 - 100 * std::sin(3.1416 / 2 - slope), 0.01) << segment.name();
+    EXPECT_NEAR(form.slopeRayNormal.X2, x, 0.1);
+    EXPECT_NEAR(form.slopeRayNormal.Y2, y, 0.1);
+    EXPECT_NEAR(form.slopeRayNormal.X1, form.slopeRayNormal.X2 - 100 * std::cos(3.1416 / 2 - slope), 0.01)
+        << segment.name();
+    EXPECT_NEAR(form.slopeRayNormal.Y1, form.slopeRayNormal.Y2 - 100 * std::sin(3.1416 / 2 - slope), 0.01)
+        << segment.name();
   }
 }
 
@@ -52,15 +54,15 @@ TEST_F(CollisionTest, OutsideTheOutlineTheShellFliesOn) {
        {std::pair{900.0, 0.2 * height}, {1320.0, 0.10 * height}, {2700.0, 0.3 * height}}) {
     FireToProfile(x, y);
     EXPECT_FALSE(Burst());
-    EXPECT_TRUE(form.tmrShell.Enabled);
+    EXPECT_TRUE(form.shellTimer.Enabled);
   }
 }
 
 TEST_F(CollisionTest, TheFootIsComparedAcrossContainers) {
   FireTo(7800, 1200);
   EXPECT_TRUE(Burst()) << "up to 3460 of the view, not 4250";
-  EXPECT_EQ(form.Line37.X2, Single(form.Shape1(0).Left + 37.5));
-  EXPECT_EQ(form.Line37.Y2, Single(form.Shape1(0).Top + 37.5));
+  EXPECT_EQ(form.levelRayUp.X2, Single(form.shells(0).Left + 37.5));
+  EXPECT_EQ(form.levelRayUp.Y2, Single(form.shells(0).Top + 37.5));
   platform.log.clear();
   FireTo(7816, 1200);
   FireTo(7800, 1230);
@@ -69,15 +71,15 @@ TEST_F(CollisionTest, TheFootIsComparedAcrossContainers) {
 }
 
 TEST_F(CollisionTest, AShellThatEndsNowhereEndsSilently) {
-  Click(form.cmdAdvanced);
+  Click(form.dragButton);
   FireTo(9000, -1);
-  EXPECT_TRUE(form.tmrShell.Enabled) << "no test holds in this tick";
-  const std::string maximum = form.Label23.Caption;
+  EXPECT_TRUE(form.shellTimer.Enabled) << "no test holds in this tick";
+  const std::string maximum = form.bestScore.Caption;
   Advance(17);
-  EXPECT_FALSE(form.tmrShell.Enabled || Burst());
-  EXPECT_TRUE(form.Shape1(0).Visible && form.Image7.Enabled);
-  EXPECT_EQ(form.Label23.Caption.Get(), maximum);
-  EXPECT_EQ(form.cmdAdvanced.Caption, "ON") << "drag stays on for the next shell";
+  EXPECT_FALSE(form.shellTimer.Enabled || Burst());
+  EXPECT_TRUE(form.shells(0).Visible && form.fireButton.Enabled);
+  EXPECT_EQ(form.bestScore.Caption.Get(), maximum);
+  EXPECT_EQ(form.dragButton.Caption, "ON") << "drag stays on for the next shell";
 
   FireTo(9990, -1);
   form.flight.vx = 10000;
@@ -86,35 +88,36 @@ TEST_F(CollisionTest, AShellThatEndsNowhereEndsSilently) {
 }
 
 TEST_F(CollisionTest, APreviewInFlightSendsTheShellIntoTheGround) {
-  form.VScroll1.Value = 320;
-  form.VScroll2.Value = 700;
-  Click(form.Image7);
+  form.elevationBar.Value = 320;
+  form.velocityBar.Value = 700;
+  Click(form.fireButton);
   Advance(170);
-  UserDragsTo(form.VScroll2, 750);
+  UserDragsTo(form.velocityBar, 750);
   Advance(17);
   EXPECT_TRUE(Burst());
-  EXPECT_FALSE(form.tmrShell.Enabled);
+  EXPECT_FALSE(form.shellTimer.Enabled);
 }
 
 TEST_F(CollisionTest, AHitBurnsFor400Milliseconds) {
   FireTo(22052, -1);
-  EXPECT_TRUE(form.Image8.Visible && form.Shape1(0).Visible);
-  EXPECT_FALSE(form.Image5.Visible || form.Label11.Visible || form.Label23.Visible || form.Image7.Enabled);
+  EXPECT_TRUE(form.flames.Visible && form.shells(0).Visible);
+  EXPECT_FALSE(form.targetPicture.Visible || form.targetOnScale.Visible || form.bestScore.Visible ||
+               form.fireButton.Enabled);
   Advance(399);
-  EXPECT_TRUE(form.Image8.Visible);
+  EXPECT_TRUE(form.flames.Visible);
   Advance(1);
-  EXPECT_FALSE(form.Image8.Visible);
+  EXPECT_FALSE(form.flames.Visible);
 }
 
 TEST_F(CollisionTest, AHitWithTheFifthShellArmsTheBonusShotAndEndsItsDrag) {
   for (int shell = 1; shell <= 4; ++shell) FireTo(12000, -1);
-  Click(form.cmdAdvanced);
+  Click(form.dragButton);
   FireTo(22052, -1);
-  EXPECT_EQ(form.Label17.Caption, "10");
-  EXPECT_EQ(form.Label24.Caption, "Bonus Shot using Advanced Trajectory Simulator");
-  EXPECT_EQ(form.Label15.Caption, "0");
-  EXPECT_EQ(form.cmdAdvanced.Caption, "OFF");
-  EXPECT_EQ(form.cmdAdvanced.Enabled, false);
+  EXPECT_EQ(form.score.Caption, "10");
+  EXPECT_EQ(form.header.Caption, "Bonus Shot using Advanced Trajectory Simulator");
+  EXPECT_EQ(form.dragConstant.Caption, "0");
+  EXPECT_EQ(form.dragButton.Caption, "OFF");
+  EXPECT_EQ(form.dragButton.Enabled, false);
 }
 
 }  // namespace

@@ -12,40 +12,40 @@ class ProfileTest : public ::testing::Test, protected RunningGame {
 
 TEST_F(ProfileTest, TheNearestRange) {
   OpenProfile(1);
-  EXPECT_EQ(form.Picture11.Height, 955);
-  EXPECT_EQ(form.Picture11.Top, 7685);
-  EXPECT_EQ(form.Line27.Y2, 668.5);
-  EXPECT_NEAR(form.Line32.Y2, 114.6, 0.001);
-  EXPECT_EQ(form.Line35.X2, 3460);
-  EXPECT_NEAR(form.Picture10.Height, 2296, 0.01);
-  EXPECT_NEAR(form.Image5.Left, 4382.2, 0.01);
+  EXPECT_EQ(form.mountain.Height, 955);
+  EXPECT_EQ(form.mountain.Top, 7685);
+  EXPECT_EQ(form.slope1.Y2, 668.5);
+  EXPECT_NEAR(form.slope3.Y2, 114.6, 0.001);
+  EXPECT_EQ(form.slope6.X2, 3460);
+  EXPECT_NEAR(form.backdrop.Height, 2296, 0.01);
+  EXPECT_NEAR(form.targetPicture.Left, 4382.2, 0.01);
 }
 
 TEST_F(ProfileTest, OpensEverythingThatAimingNeeds) {
   OpenProfile();
-  for (const PictureBox* box : {&form.Picture5, &form.Picture6, &form.Picture7, &form.Picture8})
+  for (const PictureBox* box : {&form.profile, &form.rangeScale, &form.heightScale, &form.firingPanel})
     EXPECT_TRUE(box->Visible);
-  EXPECT_FALSE(form.Image7.Enabled) << "dead until the gun is laid";
-  EXPECT_FALSE(form.cmdMagnify.Enabled || form.cmdSearch.Enabled || form.cmdReset.Enabled);
-  EXPECT_TRUE(form.cmdAdvanced.Visible && form.cmdAdvanced.Enabled);
-  EXPECT_EQ(form.Label23.Caption, "50");
-  EXPECT_EQ(form.Line10(0).X1, 400) << "the origin stands apart from the series";
-  EXPECT_TRUE(form.Label3(33).Visible && form.Line11(16).Visible && form.Line10(0).Visible);
+  EXPECT_FALSE(form.fireButton.Enabled) << "dead until the gun is laid";
+  EXPECT_FALSE(form.magnifyButton.Enabled || form.searchButton.Enabled || form.resetButton.Enabled);
+  EXPECT_TRUE(form.dragButton.Visible && form.dragButton.Enabled);
+  EXPECT_EQ(form.bestScore.Caption, "50");
+  EXPECT_EQ(form.rangeTicks(0).X1, 400) << "the origin stands apart from the series";
+  EXPECT_TRUE(form.rangeNumbers(33).Visible && form.heightTicks(16).Visible && form.rangeTicks(0).Visible);
   const std::size_t objects = form.objects().size();
-  form.cmdMagnify.Enabled = true;
-  Click(form.cmdMagnify);
+  form.magnifyButton.Enabled = true;
+  Click(form.magnifyButton);
   EXPECT_EQ(form.objects().size(), objects) << "a second Magnify loads nothing twice";
 }
 
 TEST_F(ProfileTest, TheFlightTimeSettingSurvivesAReset) {
   OpenProfile();
-  UserDragsTo(form.HScroll1, 7);
-  form.cmdReset.Enabled = true;
-  Click(form.cmdReset);
+  UserDragsTo(form.flightTimeBar, 7);
+  form.resetButton.Enabled = true;
+  Click(form.resetButton);
   EXPECT_EQ(folder.Bytes("extra.txt").substr(40), "7         ");
-  form.HScroll1.Value = 9;
+  form.flightTimeBar.Value = 9;
   OpenProfile();
-  EXPECT_EQ(form.HScroll1.Value, 7);
+  EXPECT_EQ(form.flightTimeBar.Value, 7);
 }
 
 TEST_F(ProfileTest, AnEditedRecordGivesTheNearestBound) {
@@ -59,15 +59,15 @@ TEST_F(ProfileTest, AnEditedRecordGivesTheNearestBound) {
     game.Start();
     game.folder.Put("extra.txt", std::string(40, ' ') + record);
     game.OpenProfile();
-    EXPECT_EQ(game.form.HScroll1.Value, value) << record;
+    EXPECT_EQ(game.form.flightTimeBar.Value, value) << record;
   }
 }
 
 TEST_F(ProfileTest, WithoutARecordTheSettingStays) {
   std::filesystem::remove(folder.path() / "extra.txt");
-  form.HScroll1.Value = 12;
+  form.flightTimeBar.Value = 12;
   OpenProfile();
-  EXPECT_EQ(form.HScroll1.Value, 12);
+  EXPECT_EQ(form.flightTimeBar.Value, 12);
 }
 
 }  // namespace

@@ -21,10 +21,10 @@ class RadarTest : public ::testing::Test, protected RunningGame {
   // Searches for a target that is locked on once it has come down past `altitude`.
   void Search(int altitude) {
     chance.Queue((altitude - 0.5) / 6000);
-    Click(form.cmdSearch);
-    ASSERT_EQ(form.cmdSearch.Enabled, false);
-    ASSERT_TRUE(form.Shape2.Visible && form.Line2.Visible);
-    ASSERT_TRUE(form.Line2.X1 == 1800 && form.Line2.Y1 == 2040);
+    Click(form.searchButton);
+    ASSERT_EQ(form.searchButton.Enabled, false);
+    ASSERT_TRUE(form.target.Visible && form.beam.Visible);
+    ASSERT_TRUE(form.beam.X1 == 1800 && form.beam.Y1 == 2040);
   }
   std::size_t Beeps() const {
     return static_cast<std::size_t>(std::count(platform.log.begin(), platform.log.end(), "beep"));
@@ -39,9 +39,9 @@ TEST_F(RadarTest, TheTargetDriftsInASeriesThatNeverVaries) {
   Search(6000);
   for (int tick = 1; tick <= 22; ++tick) {
     Advance(50);
-    EXPECT_NEAR(form.Shape2.Left, positions[tick - 1], 0.06) << tick;
-    EXPECT_EQ(form.Shape2.Top, 2000 + 25 * tick);
-    EXPECT_NE(form.tmrBounce.Enabled, form.tmrBounce2.Enabled) << "one of the two runs";
+    EXPECT_NEAR(form.target.Left, positions[tick - 1], 0.06) << tick;
+    EXPECT_EQ(form.target.Top, 2000 + 25 * tick);
+    EXPECT_NE(form.driftRightTimer.Enabled, form.driftLeftTimer.Enabled) << "one of the two runs";
     if (Beeps() > beepsAt.size()) beepsAt.push_back(tick);
   }
   EXPECT_EQ(beepsAt, (std::vector<int>{9, 20}));
@@ -60,7 +60,7 @@ TEST_F(RadarTest, TheScopeShowsTheSliceBelowTheTarget) {
   std::filesystem::remove(folder.path() / "Graphics" / "Profile5.bmp");
   for (const auto& [ticks, shown, why] : stages) {
     Advance(50 * ticks);
-    EXPECT_EQ(form.Picture4.Picture.Get(), (Picture{"Graphics\\Profile" + std::string(shown) + ".bmp", true}))
+    EXPECT_EQ(form.scope.Picture.Get(), (Picture{"Graphics\\Profile" + std::string(shown) + ".bmp", true}))
         << why;
   }
 }
@@ -71,7 +71,7 @@ TEST_F(RadarTest, NoSliceBeginsOrEndsOnItsEdge) {
   const auto shownAt = [this](double place) {
     form.flight.x = place;
     Advance(50);
-    return form.Picture4.Picture.Get().name;
+    return form.scope.Picture.Get().name;
   };
   const double edges[] = {2500, 3250, 4750, 6250, 7750, 9250, 10750, 12250, 13750};
   for (std::size_t i = 0; i < std::size(edges); ++i) {
@@ -93,32 +93,32 @@ TEST_F(RadarTest, LocksOnOnceTheTargetIsLowAndBelowTheOpenPanel) {
     RunningGame game;
     game.Start();
     game.chance.Queue((altitude - 0.5) / 6000);
-    game.Click(game.form.cmdSearch);
+    game.Click(game.form.searchButton);
     game.Advance(50 * ticks - 1);
-    EXPECT_FALSE(game.form.cmdMagnify.Enabled) << altitude;
+    EXPECT_FALSE(game.form.magnifyButton.Enabled) << altitude;
     game.Advance(1);
-    EXPECT_TRUE(game.form.cmdMagnify.Enabled) << altitude;
-    EXPECT_TRUE(game.form.Label5.Caption.Get().starts_with(" Target at " + std::string(range)));
-    EXPECT_TRUE(game.form.Label4.Caption.Get().starts_with(" Click Magnify (M) to display "));
+    EXPECT_TRUE(game.form.magnifyButton.Enabled) << altitude;
+    EXPECT_TRUE(game.form.targetTag.Caption.Get().starts_with(" Target at " + std::string(range)));
+    EXPECT_TRUE(game.form.advice.Caption.Get().starts_with(" Click Magnify (M) to display "));
   }
 }
 
 TEST_F(RadarTest, ALockOnAtTheTurnRunsTwice) {
   Search(210);
   Advance(50 * 9);
-  EXPECT_TRUE(form.cmdMagnify.Enabled);
-  EXPECT_TRUE(form.tmrBounce2.Enabled);
+  EXPECT_TRUE(form.magnifyButton.Enabled);
+  EXPECT_TRUE(form.driftLeftTimer.Enabled);
   EXPECT_EQ(Beeps(), 2u);
-  const std::string first = form.Label5.Caption;
+  const std::string first = form.targetTag.Caption;
   Advance(50);
-  EXPECT_FALSE(form.tmrBounce2.Enabled);
+  EXPECT_FALSE(form.driftLeftTimer.Enabled);
   EXPECT_EQ(Beeps(), 3u);
-  EXPECT_NEAR(form.Line2.X1, 14424.4, 0.1);
-  EXPECT_NE(form.Label5.Caption.Get(), first);
+  EXPECT_NEAR(form.beam.X1, 14424.4, 0.1);
+  EXPECT_NE(form.targetTag.Caption.Get(), first);
 }
 
 TEST_F(RadarTest, OnlyTheLockOnBeepIsSilenced) {
-  Click(form.cmdSound);
+  Click(form.soundButton);
   Search(380);
   Advance(50 * 16);
   EXPECT_EQ(Beeps(), 1u);

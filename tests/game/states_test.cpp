@@ -15,68 +15,68 @@ class StatesTest : public ::testing::Test, protected RunningGame {
 
 TEST_F(StatesTest, ResetTakesTheProfileDown) {
   OpenProfile();
-  UserDragsTo(form.VScroll1, 300);
+  UserDragsTo(form.elevationBar, 300);
   Miss();
   const std::size_t objects = form.objects().size() - 2 * 33 - 2 * 16;
-  form.cmdReset.Enabled = true;
-  Click(form.cmdReset);
+  form.resetButton.Enabled = true;
+  Click(form.resetButton);
   EXPECT_EQ(form.objects().size(), objects);
-  EXPECT_FALSE(form.Picture5.Visible || form.Picture8.Visible);
-  EXPECT_FALSE(form.Line24.Visible) << "though the nested Change has shown it";
-  EXPECT_EQ(form.Label25.Caption, "1") << "the game goes on";
+  EXPECT_FALSE(form.profile.Visible || form.firingPanel.Visible);
+  EXPECT_FALSE(form.sightLine.Visible) << "though the nested Change has shown it";
+  EXPECT_EQ(form.shotsFired.Caption, "1") << "the game goes on";
 }
 
 TEST_F(StatesTest, ResetRunsTheChangeWithTheBonusShotOfBefore) {
   OpenProfile();
   for (int shell = 1; shell <= 5; ++shell) Miss();
-  UserDragsTo(form.VScroll1, 300);
-  form.cmdReset.Enabled = true;
-  form.Picture5.Cls();
-  Click(form.cmdReset);
-  EXPECT_FALSE(form.Picture5.dots().empty()) << "the nested Change plots the bonus trajectory";
-  EXPECT_FALSE(form.Label3.Has(33));
+  UserDragsTo(form.elevationBar, 300);
+  form.resetButton.Enabled = true;
+  form.profile.Cls();
+  Click(form.resetButton);
+  EXPECT_FALSE(form.profile.dots().empty()) << "the nested Change plots the bonus trajectory";
+  EXPECT_FALSE(form.rangeNumbers.Has(33));
   OpenProfile();
-  EXPECT_EQ(form.Label24.Caption, "Bonus Shot using Advanced Trajectory Simulator")
+  EXPECT_EQ(form.header.Caption, "Bonus Shot using Advanced Trajectory Simulator")
       << "shell 6 keeps the bonus armed";
-  EXPECT_FALSE(form.cmdAdvanced.Enabled);
+  EXPECT_FALSE(form.dragButton.Enabled);
 }
 
 TEST_F(StatesTest, AResetInTheLastFlightLeavesNoBurst) {
   OpenProfile();
   for (int shell = 1; shell <= 5; ++shell) Miss();
-  UserDragsTo(form.VScroll1, 300);
-  UserDragsTo(form.VScroll2, 700);
-  Click(form.Image7);
+  UserDragsTo(form.elevationBar, 300);
+  UserDragsTo(form.velocityBar, 700);
+  Click(form.fireButton);
   Advance(170);
-  Click(form.cmdReset);
+  Click(form.resetButton);
   platform.log.clear();
-  EXPECT_TRUE(form.tmrShell.Enabled);
+  EXPECT_TRUE(form.shellTimer.Enabled);
   Advance(60'000);
   EXPECT_TRUE(platform.log.empty());
-  EXPECT_EQ(form.Label25.Caption, "0") << "a new game";
+  EXPECT_EQ(form.shotsFired.Caption, "0") << "a new game";
 }
 
 TEST_F(StatesTest, DragKeptThroughASilentEndCountsForTheBonusShell) {
   OpenProfile();
   for (int shell = 1; shell <= 4; ++shell) Miss();
-  Click(form.cmdAdvanced);
+  Click(form.dragButton);
   FireTo(9000, -1);
   Advance(17);
   FireTo(22052, -1);
-  EXPECT_EQ(form.Label17.Caption, "10");
+  EXPECT_EQ(form.score.Caption, "10");
 }
 
 TEST_F(StatesTest, DragTurnedOnAmongTheFragmentsCanBeTurnedOffAfterReset) {
   OpenProfile();
   FireTo(22052, -1);
-  Click(form.cmdAdvanced);
+  Click(form.dragButton);
   Advance(3400);
-  Click(form.cmdReset);
+  Click(form.resetButton);
   OpenProfile();
-  EXPECT_EQ(form.cmdAdvanced.Caption, "OFF");
-  Click(form.cmdAdvanced);
-  EXPECT_EQ(form.cmdAdvanced.Caption, "OFF");
-  EXPECT_EQ(form.Label23.Caption, "25") << "45 less 5 points for each of the 4 shells left";
+  EXPECT_EQ(form.dragButton.Caption, "OFF");
+  Click(form.dragButton);
+  EXPECT_EQ(form.dragButton.Caption, "OFF");
+  EXPECT_EQ(form.bestScore.Caption, "25") << "45 less 5 points for each of the 4 shells left";
 }
 
 class MainWindowTest : public ::testing::Test, protected RunningGame {};
@@ -84,8 +84,8 @@ class MainWindowTest : public ::testing::Test, protected RunningGame {};
 TEST_F(MainWindowTest, StartsInTheWaitingState) {
   program.Start();
   EXPECT_EQ(platform.log, std::vector<std::string>{"show Quintara"});
-  EXPECT_TRUE(form.Picture2.Visible && form.cmdSearch.Enabled);
-  EXPECT_FALSE(form.Picture5.Visible || form.cmdMagnify.Enabled || form.cmdReset.Enabled);
+  EXPECT_TRUE(form.landscape.Visible && form.searchButton.Enabled);
+  EXPECT_FALSE(form.profile.Visible || form.magnifyButton.Enabled || form.resetButton.Enabled);
   EXPECT_EQ(form.Left, (28800.0 - 15315) / 2);
   EXPECT_EQ(form.Top, (16200.0 - 11070) / 2 - 200);
 }
@@ -93,11 +93,11 @@ TEST_F(MainWindowTest, StartsInTheWaitingState) {
 TEST_F(MainWindowTest, DrawsTheFragmentWidths) {
   for (const double value : {0.0, 0.5, 0.999, 0.021, 0.0199}) chance.Queue(value);
   Start();
-  EXPECT_EQ(form.shpExplode1.Width, 30);
-  EXPECT_EQ(form.shpExplode2.Width, 55);
-  EXPECT_EQ(form.shpExplode3.Width, 79);
-  EXPECT_EQ(form.shpExplode4.Width, 31);
-  EXPECT_EQ(form.shpExplode5.Height, 80) << "the height stays";
+  EXPECT_EQ(form.fragment1.Width, 30);
+  EXPECT_EQ(form.fragment2.Width, 55);
+  EXPECT_EQ(form.fragment3.Width, 79);
+  EXPECT_EQ(form.fragment4.Width, 31);
+  EXPECT_EQ(form.fragment5.Height, 80) << "the height stays";
 }
 
 TEST(AppFolder, EndsInOneSeparator) {
@@ -115,7 +115,7 @@ TEST(AppFolder, EndsInOneSeparator) {
 
 TEST_F(MainWindowTest, CancelEndsAtOnce) {
   Start();
-  Click(form.cmdCancel);
+  Click(form.cancelButton);
   EXPECT_EQ(platform.log, std::vector<std::string>{"end"});
 }
 

@@ -28,7 +28,7 @@ TEST_F(CommandsTest, ClicksAndThePointerReachWhatTakesThem) {
 
 TEST_F(CommandsTest, BarsAndSliders) {
   std::string values;
-  form.HScroll1.Change.Bind([&] { values += std::to_string(form.HScroll1.Value) + " "; });
+  form.flightTimeBar.Change.Bind([&] { values += std::to_string(form.flightTimeBar.Value) + " "; });
   EXPECT_EQ(Say("scroll Quintara.HScroll1 7\nscroll Quintara.HScroll1 7\narrow Quintara.HScroll1 max\n"
                 "trough Quintara.HScroll1 min\nscroll Quintara.HScroll1 15\narrow Quintara.HScroll1 max"),
             "ok\nok\nok\nok\nok\nok\n");
@@ -63,7 +63,7 @@ TEST_F(CommandsTest, Keys) {
 }
 
 TEST_F(CommandsTest, AHandlerThatFailsDoesNotEndTheHost) {
-  form.cmdSearch.Click.Bind([this] { form.Label3(40).Visible = true; });
+  form.searchButton.Click.Bind([this] { form.rangeNumbers(40).Visible = true; });
   ExpectRefused("click Quintara.cmdSearch");
   EXPECT_EQ(Say("click Quintara.cmdSound"), "ok\n");
 }
@@ -95,7 +95,7 @@ TEST_F(CommandsTest, BoxesTakeTheAnswersInTheirOrder) {
     EXPECT_TRUE(reply.ends_with(" 48 \"Uninstall Quintara\" -> " + std::string(answer) + "\nok\n")) << reply;
   }
   Choose("mnuMasters");
-  program.masters().List1.AddItem("Ada");
+  program.masters().list.AddItem("Ada");
   EXPECT_EQ(Say("click frmMasters.cmdRemove"),
             "! box \"Are you sure you want to erase all names from the Quintara Master list?\" 52 "
             "\"Removing names\" -> 7\nok\n");
@@ -123,9 +123,9 @@ TEST_F(CommandsTest, ChancesAndDots) {
   EXPECT_EQ(Say("chance 0.25 0"), "ok\n");
   EXPECT_EQ(program.scene().chance().Rnd(), 0.25);
   EXPECT_EQ(program.scene().chance().Rnd(), 0);
-  form.Picture5.PSet(10, 20.5);
-  form.Picture5.DrawWidth = 3;
-  form.Picture5.PSet(30, 40, 0x123456);
+  form.profile.PSet(10, 20.5);
+  form.profile.DrawWidth = 3;
+  form.profile.PSet(30, 40, 0x123456);
   EXPECT_EQ(Say("dots Quintara.Picture5\ndots Quintara"),
             "10 20.5 0x80000012 1\n30 40 0x00123456 3\nok\nok\n");
 }

@@ -59,7 +59,7 @@ TEST_F(PropertiesTest, AssignmentsAreReadBack) {
 
 TEST_F(PropertiesTest, WhatIsWrongIsRefusedAndChangesNothing) {
   Say("set frmTrajectory.Left 0\nset frmMasters.Left 0\nset Analysis.Left 0");
-  program.masters().List1.AddItem("Ada");
+  program.masters().list.AddItem("Ada");
   const std::string before = Say("dump");
   ExpectRefused(
       "get Quintara|get .Left|get Quintara.|get Quintara.left|get quintara.Left|get Nobody.Left|"
@@ -90,7 +90,7 @@ TEST_F(PropertiesTest, AScaleCountsAnewAndMovesNothing) {
       "ok\nok\nok\nok\n");
   EXPECT_EQ(Get("About.ScaleMode"), "0");
   EXPECT_EQ(Get("About.ScaleWidth"), "10");
-  EXPECT_EQ(program.about().cmdOK.Surface().left, 750);
+  EXPECT_EQ(program.about().okButton.Surface().left, 750);
   Say("set About.Width 90");
   ExpectRefused("set About.ScaleWidth 10");
 }
@@ -102,7 +102,7 @@ TEST_F(PropertiesTest, ABitmapOfTheDataFolderIsLoaded) {
   folder.Put("Graphics/hill.bmp", bitmap);
   EXPECT_EQ(Say(R"(set Quintara.Picture4.Picture "Graphics\\hill.bmp")"), "ok\n");
   EXPECT_EQ(Get("Quintara.Picture4.Picture"), "\"Graphics\\\\hill.bmp\"");
-  EXPECT_TRUE(form.Picture4.Picture.Get().isFile);
+  EXPECT_TRUE(form.scope.Picture.Get().isFile);
 }
 
 TEST_F(PropertiesTest, OnlyAssigningTouchesAForm) {

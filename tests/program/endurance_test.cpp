@@ -58,7 +58,7 @@ class Day {
   Day() {
     program_.Start();
     // A button that ends the program would end the day.
-    program_.quintara().cmdCancel.Enabled = false;
+    program_.quintara().cancelButton.Enabled = false;
   }
 
   void PlayUntil(std::int64_t time) {
@@ -79,7 +79,7 @@ class Day {
       for (Form* form : OtherForms()) form->Show();
       for (Form* form : OtherForms()) form->Unload();
     }
-    UserClicks(program_.quintara().cmdReset);
+    UserClicks(program_.quintara().resetButton);
     disk_.written.clear();
     disk_.full = false;
   }

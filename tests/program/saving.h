@@ -25,16 +25,16 @@ struct Saving {
 inline std::vector<Saving> AllSavings() {
   const auto addName = [](Program& program, RecordingPlatform&) {
     program.Start();
-    program.quintara().Label17.Caption = "40";
+    program.quintara().score.Caption = "40";
     program.masters().Show();
-    program.masters().Picture1.Visible = true;
-    for (const char key : {'A', '\r'}) UserTypes(program.masters().Text1, key);
+    program.masters().namePanel.Visible = true;
+    for (const char key : {'A', '\r'}) UserTypes(program.masters().nameBox, key);
   };
   const auto removeNames = [](Program& program, RecordingPlatform& platform) {
     program.Start();
     program.masters().Show();
     platform.boxAnswers.assign(20, 6);
-    UserClicks(program.masters().cmdRemove);
+    UserClicks(program.masters().removeButton);
   };
   std::string names;
   for (int i = 0; i < 400; ++i) names += "Somebody " + std::to_string(i) + " - Master of Quintara\r\n";

@@ -30,18 +30,18 @@ struct RunningGame {
   // profile. 380 gives a range of 22.052 km.
   void OpenProfile(int altitude = 380) {
     chance.Queue((altitude - 0.5) / 6000);
-    Click(form.cmdSearch);
-    while (!form.cmdMagnify.Enabled) Advance(50);
+    Click(form.searchButton);
+    while (!form.magnifyButton.Enabled) Advance(50);
     Advance(50);  // a lock-on at the turn runs once more
-    Click(form.cmdMagnify);
+    Click(form.magnifyButton);
   }
 
   // Fires, and steers the shell so that the next tick finds it at this place, in metres, coming straight
   // down.
   void FireTo(double x, double y) {
-    form.Image7.Enabled = true;
-    Click(form.Image7);
-    const double dt = Single(form.HScroll1.Value * 0.059);
+    form.fireButton.Enabled = true;
+    Click(form.fireButton);
+    const double dt = Single(form.flightTimeBar.Value * 0.059);
     form.flight.vx = 0;
     form.flight.x = x;
     form.flight.y = std::max(y, 0.0) + 1;
