@@ -1,5 +1,6 @@
 #include "fuzz/game_order.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "fuzz/require.h"

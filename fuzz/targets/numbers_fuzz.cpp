@@ -2,6 +2,7 @@
 
 #include "numbers/numbers.h"
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <limits>

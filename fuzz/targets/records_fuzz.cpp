@@ -1,6 +1,8 @@
 // The record file and the heads of bitmaps. The first byte names a record, the next ten are its text, the
 // rest is what lies in the file before.
 
+#include <algorithm>
+
 #include "fuzz/answering_platform.h"
 #include "fuzz/bytes.h"
 #include "fuzz/require.h"
