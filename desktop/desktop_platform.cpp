@@ -9,6 +9,8 @@
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMessageBox>
 
+#include <stdexcept>
+
 #include "desktop/appearance.h"
 #include "desktop/form_window.h"
 #include "desktop/screens.h"
@@ -66,21 +68,30 @@ void DesktopPlatform::Beep() {
   QApplication::beep();
 }
 
-std::int32_t DesktopPlatform::ShowMessageBox(const std::string& text, std::int32_t style,
-                                             const std::string& title) {
-  const bool asks = message_box::AsksYesOrNo(style);
+void DesktopPlatform::ShowMessageBox(const MessageBox& box, std::function<void(Answer)> reply) {
+  reply(RunMessageBox(box));
+}
+
+void DesktopPlatform::OpenPopupMenu(Form& form, Menu& menu, double x, double y,
+                                    std::function<void(Menu*)> reply) {
+  reply(RunPopupMenu(form, menu, x, y));
+}
+
+Answer DesktopPlatform::RunMessageBox(const MessageBox& question) {
+  const bool asks = question.buttons == MessageBox::Buttons::YesAndNo;
   // A box goes with the window that it belongs to.
   QMessageBox box(session() != nullptr ? session()->ActiveWindow() : nullptr);
   box.setFont(ToQFont(Font{}, ZoomOf(session())));
-  box.setWindowTitle(ToQString(title));
+  box.setWindowTitle(ToQString(question.title));
   box.setTextFormat(Qt::PlainText);
-  box.setText(ToQString(text));
+  box.setText(ToQString(question.text));
   box.setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No
                               : QMessageBox::StandardButtons(QMessageBox::Ok));
-  if (message_box::HasExclamation(style)) box.setIcon(QMessageBox::Warning);
+  box.setIcon(QMessageBox::Warning);
   const Waiting waiting(session());
   const int chosen = box.exec();
-  return chosen == QMessageBox::Yes ? message_box::yes : message_box::SafeAnswer(style);
+  if (!asks) return Answer::Ok;
+  return chosen == QMessageBox::Yes ? Answer::Yes : Answer::No;
 }
 
 Menu* DesktopPlatform::RunPopupMenu(Form& form, Menu& menu, double x, double y) {
@@ -102,6 +113,11 @@ Menu* DesktopPlatform::RunPopupMenu(Form& form, Menu& menu, double x, double y) 
 
 void DesktopPlatform::PutOnClipboard(const std::string& text) {
   QGuiApplication::clipboard()->setText(ToQString(text));
+}
+
+// Out of the handler, up to the session, which tells it and goes on.
+void DesktopPlatform::FaultFound(const std::string& what) {
+  throw std::runtime_error(what);
 }
 
 }  // namespace quintara::desktop

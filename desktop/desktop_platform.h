@@ -32,11 +32,15 @@ class DesktopPlatform final : public SessionPlatform<Platform> {
 
   void PlaySound(const DataFile& sound) override;
   void Beep() override;
-  std::int32_t ShowMessageBox(const std::string& text, std::int32_t style, const std::string& title) override;
-  Menu* RunPopupMenu(Form& form, Menu& menu, double x, double y) override;
+  void ShowMessageBox(const MessageBox& box, std::function<void(Answer)> reply) override;
+  void OpenPopupMenu(Form& form, Menu& menu, double x, double y, std::function<void(Menu*)> reply) override;
   void PutOnClipboard(const std::string& text) override;
+  void FaultFound(const std::string& what) override;
 
  private:
+  Answer RunMessageBox(const MessageBox& question);
+  Menu* RunPopupMenu(Form& form, Menu& menu, double x, double y);
+
   QString programFolder_;
   OverlayFileSystem disk_;
   SoundPlayer sounds_;

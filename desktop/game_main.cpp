@@ -29,12 +29,11 @@ void EndWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const 
 
 void TellIfMissing(const QString& folder, Platform& platform) {
   if (QDir(folder).exists()) return;
-  constexpr std::int32_t okWithExclamation = 48;
   const QString text =
       "The folder \"%1\" is missing. The documents, the pictures of the radar and the sounds lie in it. "
       "The game goes on without them.";
-  platform.ShowMessageBox(text.arg(QDir::toNativeSeparators(folder)).toStdString(), okWithExclamation,
-                          "Quintara");
+  platform.ShowMessageBox({text.arg(QDir::toNativeSeparators(folder)).toStdString(), "Quintara"},
+                          [](Answer) {});
 }
 
 }  // namespace

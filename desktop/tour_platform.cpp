@@ -36,13 +36,13 @@ bool TourDisk::Replace(const std::filesystem::path& fresh, const std::filesystem
   return true;
 }
 
-std::int32_t TourPlatform::ShowMessageBox(const std::string& text, std::int32_t style, const std::string&) {
-  boxText_ = text;
-  return message_box::SafeAnswer(style);
+void TourPlatform::ShowMessageBox(const MessageBox& box, std::function<void(Answer)> reply) {
+  boxText_ = box.text;
+  reply(Answer::Ok);
 }
 
-Menu* TourPlatform::RunPopupMenu(Form&, Menu&, double, double) {
-  return std::exchange(chosen_, nullptr);
+void TourPlatform::OpenPopupMenu(Form&, Menu&, double, double, std::function<void(Menu*)> reply) {
+  reply(std::exchange(chosen_, nullptr));
 }
 
 }  // namespace quintara::desktop

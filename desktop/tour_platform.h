@@ -41,8 +41,8 @@ class TourPlatform final : public SessionPlatform<QuietPlatform> {
 
   std::string ProgramFolder() override { return programFolder_; }
   FileSystem& Disk() override { return disk_; }
-  std::int32_t ShowMessageBox(const std::string& text, std::int32_t style, const std::string& title) override;
-  Menu* RunPopupMenu(Form& form, Menu& menu, double x, double y) override;
+  void ShowMessageBox(const MessageBox& box, std::function<void(Answer)> reply) override;
+  void OpenPopupMenu(Form& form, Menu& menu, double x, double y, std::function<void(Menu*)> reply) override;
 
  private:
   std::string programFolder_;

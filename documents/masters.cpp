@@ -46,12 +46,13 @@ void MastersForm::EnterName(std::int16_t key) {
 }
 
 void MastersForm::RemoveNames() {
-  constexpr std::int32_t yesNoWithExclamation = 52;
-  constexpr std::int32_t yes = 6;
-  const std::int32_t answer =
-      scene().MsgBox("Are you sure you want to erase all names from the Quintara Master list?",
-                     yesNoWithExclamation, "Removing names");
-  if (answer != yes) return;
+  const MessageBox question{"Are you sure you want to erase all names from the Quintara Master list?",
+                            "Removing names", MessageBox::Buttons::YesAndNo};
+  scene().Ask(question, *this, [this](Answer answer) { RemoveIf(answer); });
+}
+
+void MastersForm::RemoveIf(Answer answer) {
+  if (answer != Answer::Yes) return;
   list.Clear();
   namePanel.Visible = false;
   SaveList();

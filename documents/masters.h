@@ -2,6 +2,7 @@
 
 #include "documents/main_form.h"
 #include "documents/masters_controls.h"
+#include "scene/message_box.h"
 
 namespace quintara {
 
@@ -15,6 +16,7 @@ class MastersForm : public MastersControls {
   void ReadList();
   void EnterName(std::int16_t key);
   void RemoveNames();
+  void RemoveIf(Answer answer);
   void SaveList();
 
   MainForm mainForm_;

@@ -19,12 +19,12 @@ class AnsweringPlatform : public QuietPlatform {
 
   std::string ProgramFolder() override { return programFolder; }
   FileSystem& Disk() override { return disk_; }
-  std::int32_t ShowMessageBox(const std::string&, std::int32_t, const std::string&) override {
-    return boxAnswer;
+  void ShowMessageBox(const MessageBox&, std::function<void(Answer)> reply) override {
+    reply(static_cast<Answer>(boxAnswer));
   }
-  Menu* RunPopupMenu(Form&, Menu& menu, double, double) override {
+  void OpenPopupMenu(Form&, Menu& menu, double, double, std::function<void(Menu*)> reply) override {
     Menu* item = menuAnswer < menu.items().size() ? menu.items()[menuAnswer] : nullptr;
-    return item != nullptr && item->CanBeChosen() ? item : nullptr;
+    reply(item != nullptr && item->CanBeChosen() ? item : nullptr);
   }
   void PutOnClipboard(const std::string& text) override { clipboard = text; }
 

@@ -48,11 +48,10 @@ void QuintaraForm::CloseReadme() {
 }
 
 void QuintaraForm::ExplainUninstalling() {
-  constexpr std::int32_t okWithExclamation = 48;
-  scene().MsgBox(
+  scene().Tell(
       "To uninstall Quintara and all it's associated files from your computer, simply double click the "
       "Add/Remove Programs icon on Windows Control Panel, then select Quintara and click Add/Remove.",
-      okWithExclamation, "Uninstall Quintara");
+      "Uninstall Quintara");
 }
 
 }  // namespace quintara

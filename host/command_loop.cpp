@@ -42,8 +42,6 @@ void CommandLoop::Run(std::istream& in) {
 }
 
 void CommandLoop::Answer(const std::string& line) {
-  // A handler that reaches for an element that doesn't exist throws, too. It stops there, and the host goes
-  // on as with a command that it refuses.
   try {
     const InputResult result = CarryOut(line);
     host_.out << (result == InputResult::Done ? "ok" : "ignored");

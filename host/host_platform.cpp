@@ -1,5 +1,6 @@
 #include "host/host_platform.h"
 
+#include <cstdlib>
 #include <ostream>
 #include <random>
 
@@ -13,6 +14,21 @@ namespace {
 std::string WithoutTrailingSeparator(const std::filesystem::path& folder) {
   const std::u8string text = (folder.has_filename() ? folder : folder.parent_path()).u8string();
   return std::string(text.begin(), text.end());
+}
+
+bool AsksYesOrNo(const MessageBox& box) {
+  return box.buttons == MessageBox::Buttons::YesAndNo;
+}
+
+// A box that asks Yes or No is refused, so that a script that forgot it destroys nothing.
+std::int32_t DefaultAnswer(const MessageBox& box) {
+  return static_cast<std::int32_t>(AsksYesOrNo(box) ? Answer::No : Answer::Ok);
+}
+
+// The number that scripts know the look of a box by: its icon, and its buttons.
+std::int32_t StyleOf(const MessageBox& box) {
+  constexpr std::int32_t exclamation = 48, yesAndNo = 4;
+  return exclamation + (AsksYesOrNo(box) ? yesAndNo : 0);
 }
 
 Menu* ItemToChoose(const Menu& menu, const std::string& name) {
@@ -50,23 +66,22 @@ void HostPlatform::Beep() {
   out_ << "! beep\n";
 }
 
-std::int32_t HostPlatform::ShowMessageBox(const std::string& text, std::int32_t style,
-                                          const std::string& title) {
-  // A script that forgot a box destroys nothing.
-  const std::int32_t result = TakeAnswer(boxAnswers_, message_box::SafeAnswer(style));
-  out_ << "! box " << Quoted(text) << ' ' << Integer32::Write(style) << ' ' << Quoted(title) << " -> "
-       << Integer32::Write(result) << '\n';
-  return result;
+void HostPlatform::ShowMessageBox(const MessageBox& box, std::function<void(Answer)> reply) {
+  const std::int32_t result = TakeAnswer(boxAnswers_, DefaultAnswer(box));
+  out_ << "! box " << Quoted(box.text) << ' ' << Integer32::Write(StyleOf(box)) << ' ' << Quoted(box.title)
+       << " -> " << Integer32::Write(result) << '\n';
+  reply(static_cast<Answer>(result));
 }
 
-Menu* HostPlatform::RunPopupMenu(Form& form, Menu& menu, double x, double y) {
+void HostPlatform::OpenPopupMenu(Form& form, Menu& menu, double x, double y,
+                                 std::function<void(Menu*)> reply) {
   Menu* chosen = ItemToChoose(menu, TakeAnswer(menuAnswers_, std::string("-")));
   // The program's own numbers: it opens menus in the scale of its form.
   const double across = x / form.scale().unitAcross;
   const double down = y / form.scale().unitDown;
   out_ << "! popup " << FullName(menu) << ' ' << Decimal::Write(across) << ' ' << Decimal::Write(down)
        << " -> " << (chosen != nullptr ? FullName(*chosen) : "-") << '\n';
-  return chosen;
+  reply(chosen);
 }
 
 void HostPlatform::PutOnClipboard(const std::string& text) {
@@ -83,6 +98,13 @@ void HostPlatform::FormUnloaded(Form& form) {
 
 void HostPlatform::ProgramEnded() {
   out_ << "! end\n";
+}
+
+// Nothing more can be trusted, so the host ends, too: with the line that a command would be refused with.
+void HostPlatform::FaultFound(const std::string& what) {
+  constexpr int faultInProgram = 3;
+  out_ << "error: " << what << '\n' << std::flush;
+  std::exit(faultInProgram);
 }
 
 }  // namespace quintara::host

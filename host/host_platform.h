@@ -31,12 +31,13 @@ class HostPlatform : public Platform {
   std::uint64_t Seed() override;
   void PlaySound(const DataFile& sound) override;
   void Beep() override;
-  std::int32_t ShowMessageBox(const std::string& text, std::int32_t style, const std::string& title) override;
-  Menu* RunPopupMenu(Form& form, Menu& menu, double x, double y) override;
+  void ShowMessageBox(const MessageBox& box, std::function<void(Answer)> reply) override;
+  void OpenPopupMenu(Form& form, Menu& menu, double x, double y, std::function<void(Menu*)> reply) override;
   void PutOnClipboard(const std::string& text) override;
   void FormShown(Form& form) override;
   void FormUnloaded(Form& form) override;
   void ProgramEnded() override;
+  void FaultFound(const std::string& what) override;
 
  private:
   std::ostream& out_;

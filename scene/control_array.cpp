@@ -5,6 +5,7 @@
 
 #include "scene/container.h"
 #include "scene/form.h"
+#include "scene/scene.h"
 
 namespace quintara {
 
@@ -49,8 +50,8 @@ void ControlArrayBase::UnloadAll() {
   while (!loaded_.empty()) Unload(loaded_.back()->index());
 }
 
-std::string ControlArrayBase::MissingElement(std::int16_t index) const {
-  return std::string(name_) + "(" + std::to_string(index) + ") does not exist";
+void ControlArrayBase::FaultMissing(std::int16_t index) const {
+  form_.scene().FaultFound(std::string(name_) + "(" + std::to_string(index) + ") does not exist");
 }
 
 }  // namespace quintara

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -31,7 +30,7 @@ class ControlArrayBase {
  protected:
   ~ControlArrayBase() = default;
   Object& Element(std::int16_t index) const {
-    if (!Has(index)) throw std::out_of_range(MissingElement(index));
+    if (!Has(index)) FaultMissing(index);
     return *elements_[static_cast<std::size_t>(index)];
   }
   // Takes a fresh element into the form: after the pattern in the table, in front of its kind on the surface.
@@ -40,7 +39,7 @@ class ControlArrayBase {
  private:
   friend class Object;
   void Enter(Object& element, std::int16_t index);
-  std::string MissingElement(std::int16_t index) const;
+  [[noreturn]] void FaultMissing(std::int16_t index) const;
 
   Form& form_;
   std::string_view name_;
@@ -54,7 +53,7 @@ class ControlArray : public ControlArrayBase {
  public:
   using ControlArrayBase::ControlArrayBase;
 
-  // The element; std::out_of_range where there is none.
+  // The element. One that does not exist is a fault of the program, which ends the handler.
   Control& operator()(std::int16_t index) const { return static_cast<Control&>(Element(index)); }
 
   // How the form's table declares an element that exists from the start.

@@ -9,8 +9,8 @@
 namespace quintara {
 
 void Dispatcher::AdvanceTo(std::int64_t time) {
-  if (busy_) return;
-  while (!stopped_) {
+  if (running_) return;
+  while (!stopped_ && !held_) {
     Timer* timer = Earliest();
     // A handler may have let time pass beyond the time asked for: what fell due by then runs too.
     if (timer == nullptr || timer->due_ > std::max(time, now_)) break;
@@ -30,15 +30,26 @@ std::optional<std::int64_t> Dispatcher::NextDue() const {
 
 void Dispatcher::Run(Form& form, std::function<void()> handler) {
   if (stopped_) return;
-  if (busy_) {
+  if (busy()) {
     queue_.push_back({&form, std::move(handler)});
   } else {
     RunToEnd(handler);
   }
 }
 
+void Dispatcher::Release() {
+  held_ = false;
+  if (!running_) RunWaiting();
+}
+
+void Dispatcher::Continue(const Form* form, std::function<void()> handler) {
+  if (!stopped_) continuations_.push_back({form, std::move(handler)});
+}
+
 void Dispatcher::Stop() {
   stopped_ = true;
+  held_ = false;
+  continuations_.clear();
   queue_.clear();
 }
 
@@ -58,7 +69,9 @@ void Dispatcher::BeginWaits(const Form& form) {
 }
 
 void Dispatcher::DropQueued(const Form& form) {
-  std::erase_if(queue_, [&](const Queued& queued) { return queued.form == &form; });
+  const auto isOfForm = [&](const Queued& queued) { return queued.form == &form; };
+  std::erase_if(continuations_, isOfForm);
+  std::erase_if(queue_, isOfForm);
 }
 
 Timer* Dispatcher::Earliest() const {
@@ -82,17 +95,28 @@ void Dispatcher::Tick(Timer& timer) {
 }
 
 void Dispatcher::RunToEnd(const std::function<void()>& handler) {
-  struct Busy {
-    bool& flag;
-    explicit Busy(bool& busy) : flag(busy) { flag = true; }
-    ~Busy() { flag = false; }
-  } busy(busy_);
-  handler();
-  while (!queue_.empty()) {
-    const auto next = std::move(queue_.front().handler);
-    queue_.pop_front();
-    next();
+  RunOne(handler);
+  RunWaiting();
+}
+
+void Dispatcher::RunWaiting() {
+  while (!held_) {
+    auto& next = continuations_.empty() ? queue_ : continuations_;
+    if (next.empty()) return;
+    const auto waiting = std::move(next.front().handler);
+    next.pop_front();
+    RunOne(waiting);
   }
+}
+
+void Dispatcher::RunOne(const std::function<void()>& handler) {
+  struct Running {
+    bool& flag;
+    explicit Running(bool& running) : flag(running) { flag = true; }
+    ~Running() { flag = false; }
+  } running(running_);
+  handler();
+  if (observer_) observer_();
 }
 
 }  // namespace quintara

@@ -91,7 +91,7 @@ void Form::Unload() {
   QueryUnload.Raise();
   unloading_ = false;
 
-  scene_.dispatcher().DropQueued(*this);
+  scene_.DropWaiting(*this);
   for (ControlArrayBase* array : arrays_) array->UnloadAll();
   loaded_ = false;
   shown_ = false;
@@ -101,9 +101,7 @@ void Form::Unload() {
 }
 
 void Form::PopupMenu(Menu& menu, double x, double y) {
-  const Menu* chosen =
-      scene_.platform().RunPopupMenu(*this, menu, x * scale().unitAcross, y * scale().unitDown);
-  if (chosen != nullptr) chosen->Click.Raise();
+  scene_.OfferMenu(*this, menu, x * scale().unitAcross, y * scale().unitDown);
 }
 
 Object* Form::Find(std::string_view name, std::int16_t index) const {

@@ -65,7 +65,7 @@ class Form : public Object, public Container {
   // Raises QueryUnload, hides the form and restores it. Does nothing on a form that isn't loaded, or whose
   // QueryUnload handler is running.
   void Unload();
-  // Opens a menu at a place in the form's scale and waits; a chosen item raises its Click.
+  // Opens a menu at a place in the form's scale, with which the handler ends. A chosen item raises its Click.
   void PopupMenu(Menu& menu, double x, double y);
 
   // Every object of the form in the order of its table, loaded array elements behind element 0.

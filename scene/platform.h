@@ -1,33 +1,17 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 #include "files/file_system.h"
 #include "files/files.h"
+#include "scene/message_box.h"
 
 namespace quintara {
 
 class Form;
 class Menu;
-
-// The numbers of a message box: what its style adds up, and the buttons that it answers with.
-namespace message_box {
-inline constexpr std::int32_t yesAndNo = 4, exclamation = 48;
-inline constexpr std::int32_t ok = 1, yes = 6, no = 7;
-
-// Whether it has the buttons Yes and No; any other has OK alone.
-constexpr bool AsksYesOrNo(std::int32_t style) {
-  return (style & 0x0F) == yesAndNo;
-}
-constexpr bool HasExclamation(std::int32_t style) {
-  return (style & 0xF0) == exclamation;
-}
-// The button that changes nothing.
-constexpr std::int32_t SafeAnswer(std::int32_t style) {
-  return AsksYesOrNo(style) ? no : ok;
-}
-}  // namespace message_box
 
 // What the program asks of the world outside: windows, sound, clipboard, clock and files. The desktop, the
 // headless host and the tests each give their own.
@@ -51,13 +35,16 @@ class Platform {
   virtual void PlaySound(const DataFile& sound) = 0;
   virtual void Beep() = 0;
 
-  // Shows a modal box and returns the number of the button chosen.
-  virtual std::int32_t ShowMessageBox(const std::string& text, std::int32_t style,
-                                      const std::string& title) = 0;
+  // What the user is asked, one question at a time; see Questions. The platform calls `reply` once, in the
+  // call or later, but not inside a handler that it lets run meanwhile.
 
-  // Opens a menu at a place on the form's inner area, in twips, and returns the chosen item, one that can be
-  // chosen, or null when dismissed.
-  virtual Menu* RunPopupMenu(Form& form, Menu& menu, double x, double y) = 0;
+  // Shows a modal box.
+  virtual void ShowMessageBox(const MessageBox& box, std::function<void(Answer)> reply) = 0;
+
+  // Opens a menu at a place on the form's inner area, in twips. The reply is an item that can be chosen, or
+  // null where the menu was dismissed.
+  virtual void OpenPopupMenu(Form& form, Menu& menu, double x, double y,
+                             std::function<void(Menu*)> reply) = 0;
 
   virtual void PutOnClipboard(const std::string& text) = 0;
 
@@ -65,6 +52,10 @@ class Platform {
   virtual void FormShown(Form& form) = 0;
   virtual void FormUnloaded(Form& form) = 0;
   virtual void ProgramEnded() = 0;
+
+  // The program found a fault of its own, such as an element that does not exist, and can't go on with the
+  // handler that runs. A platform that has no way out of it returns, and the program ends at once.
+  virtual void FaultFound(const std::string& what) = 0;
 };
 
 }  // namespace quintara

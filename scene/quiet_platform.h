@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdio>
+
 #include "scene/platform.h"
 #include "scene/scale.h"
 
@@ -14,14 +16,15 @@ class QuietPlatform : public Platform {
   std::uint64_t Seed() override { return ++seed_; }
   void PlaySound(const DataFile&) override {}
   void Beep() override {}
-  std::int32_t ShowMessageBox(const std::string&, std::int32_t, const std::string&) override {
-    return message_box::ok;
+  void ShowMessageBox(const MessageBox&, std::function<void(Answer)> reply) override { reply(Answer::Ok); }
+  void OpenPopupMenu(Form&, Menu&, double, double, std::function<void(Menu*)> reply) override {
+    reply(nullptr);
   }
-  Menu* RunPopupMenu(Form&, Menu&, double, double) override { return nullptr; }
   void PutOnClipboard(const std::string&) override {}
   void FormShown(Form&) override {}
   void FormUnloaded(Form&) override {}
   void ProgramEnded() override {}
+  void FaultFound(const std::string& what) override { std::fprintf(stderr, "quintara: %s\n", what.c_str()); }
 
  private:
   std::uint64_t seed_ = 0;

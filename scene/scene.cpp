@@ -1,8 +1,11 @@
 #include "scene/scene.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <utility>
 
 #include "scene/form.h"
+#include "scene/menu.h"
 
 namespace quintara {
 
@@ -21,6 +24,7 @@ void Scene::End() {
   if (ended_) return;
   ended_ = true;
   dispatcher_.Stop();
+  questions_.DropAll();
   platform_.ProgramEnded();
 }
 
@@ -28,12 +32,30 @@ void Scene::PlaySound(const std::string& path) {
   platform_.PlaySound(files_.Locate(path));
 }
 
-std::int32_t Scene::MsgBox(const std::string& text, std::int32_t buttons, const std::string& title) {
-  return platform_.ShowMessageBox(text, buttons, title);
+void Scene::Ask(const MessageBox& box, Form& asker, std::function<void(Answer)> then) {
+  questions_.Put(&asker, [this, box, then = std::move(then)] {
+    platform_.ShowMessageBox(
+        box, [this, then](Answer answer) { questions_.Replied([then, answer] { then(answer); }); });
+  });
 }
 
-void Scene::TellFault(const std::string& text) {
-  MsgBox(text, message_box::exclamation, "Quintara");
+void Scene::Tell(const std::string& text, const std::string& title) {
+  questions_.Put(nullptr, [this, box = MessageBox{text, title}] {
+    platform_.ShowMessageBox(box, [this](Answer) { questions_.Replied({}); });
+  });
+}
+
+void Scene::OfferMenu(Form& form, Menu& menu, double x, double y) {
+  questions_.Put(&form, [this, &form, &menu, x, y] {
+    platform_.OpenPopupMenu(form, menu, x, y, [this](Menu* chosen) {
+      questions_.Replied(chosen == nullptr ? std::function<void()>() : [chosen] { chosen->Click.Raise(); });
+    });
+  });
+}
+
+void Scene::FaultFound(const std::string& what) {
+  platform_.FaultFound(what);
+  std::abort();
 }
 
 void Scene::LoadPictureInto(PictureBox& box, std::string_view path) const {
@@ -43,6 +65,12 @@ void Scene::LoadPictureInto(PictureBox& box, std::string_view path) const {
 void Scene::Leave(Form& form) {
   std::erase(forms_, &form);
   std::erase(loadedForms_, &form);
+}
+
+// Input, questions and replies that the form can't have any more.
+void Scene::DropWaiting(const Form& form) {
+  dispatcher_.DropQueued(form);
+  questions_.Drop(form);
 }
 
 void Scene::NoteUnloaded(Form& form) {

@@ -10,6 +10,7 @@
 #include "scene/dispatcher.h"
 #include "scene/picture_box.h"
 #include "scene/platform.h"
+#include "scene/questions.h"
 
 namespace quintara {
 
@@ -48,10 +49,18 @@ class Scene {
   // Starts a wave file given by its full path and returns at once.
   void PlaySound(const std::string& path);
   void Beep() { platform_.Beep(); }
-  // Shows a modal box; returns the number of the button chosen.
-  std::int32_t MsgBox(const std::string& text, std::int32_t buttons, const std::string& title);
+  // Asks the user by a modal box. The handler that asks ends with it: `then` goes on, before any input that
+  // waits, unless the form is unloaded first.
+  void Ask(const MessageBox& box, Form& asker, std::function<void(Answer)> then);
+  // Tells by a box that nobody waits for; nothing else happens until the user has closed it.
+  void Tell(const std::string& text, const std::string& title);
   // Tells the player of something that went wrong and that the game goes on without.
-  void TellFault(const std::string& text);
+  void TellFault(const std::string& text) { Tell(text, "Quintara"); }
+  // Opens a menu at a place on the form's inner area, in twips. An item that is chosen raises its Click.
+  void OfferMenu(Form& form, Menu& menu, double x, double y);
+
+  // Ends the running handler, and the program where its platform knows no better: a fault in the program.
+  [[noreturn]] void FaultFound(const std::string& what);
 
   // Shows a bitmap file in a box. One that can't be read leaves the box as it is.
   void LoadPictureInto(PictureBox& box, std::string_view path) const;
@@ -62,11 +71,13 @@ class Scene {
   void Leave(Form& form);
   void NoteLoaded(Form& form) { loadedForms_.push_back(&form); }
   void NoteUnloaded(Form& form);
+  void DropWaiting(const Form& form);
 
   Platform& platform_;
   std::string appPath_;
   Files files_;
   Dispatcher dispatcher_;
+  Questions questions_{dispatcher_};
   Chance chance_;
   std::vector<Form*> forms_;
   std::vector<Form*> loadedForms_;

@@ -5,7 +5,6 @@
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 
-
 #include "tests/desktop/when_open.h"
 #include "tests/desktop/window_form.h"
 
@@ -47,7 +46,7 @@ TEST_F(SessionTest, TimersTickInRealTimeAndLostTicksAreNotMadeUp) {
 
 TEST_F(SessionTest, AMessageBoxHoldsTheTicks) {
   int whileOpen = -1;
-  std::int32_t answer = 0;
+  Answer answer = Answer::Ok;
   form.tmrClock.Tick.Bind([&] { ++ticks; });
   StartClock(10);
   WhenOpen<QMessageBox>(window(), [&](QMessageBox& box) {
@@ -61,10 +60,10 @@ TEST_F(SessionTest, AMessageBoxHoldsTheTicks) {
   Do([&] {
     form.imgFire.Visible = false;
     form.BackColor = 0x000000FF;
-    answer = scene.MsgBox("Text", 52, "Title");
+    scene.Ask({"Text", "Title", MessageBox::Buttons::YesAndNo}, form, [&](Answer given) { answer = given; });
   });
   EXPECT_EQ(whileOpen, 0);
-  EXPECT_EQ(answer, 7);
+  EXPECT_EQ(answer, Answer::No);
   EXPECT_TRUE(WaitForTicks(ticks + 3)) << "and they go on afterwards";
 }
 
@@ -80,7 +79,7 @@ TEST_F(SessionTest, APopupMenuGivesTheChosenItem) {
   EXPECT_EQ(heard, Heard{"two"});
   WhenOpen<QMenu>(window(), [&](QMenu& menu) { QTest::keyClick(&menu, Qt::Key_Escape); });
   Do([&] { form.PopupMenu(form.mnuTop, 0, 0); });
-  EXPECT_EQ(heard, Heard{"two"});
+  EXPECT_EQ(heard, Heard{"two"}) << "dismissed";
 }
 
 TEST_F(SessionTest, FormsComeAndGo) {

@@ -1,3 +1,5 @@
+#include <iostream>
+
 #include "tests/host/host_test.h"
 
 namespace quintara::host {
@@ -62,10 +64,13 @@ TEST_F(CommandsTest, Keys) {
       "key frmMasters.Text1 1114112|key Quintara.cmdHelp 65");
 }
 
-TEST_F(CommandsTest, AHandlerThatFailsDoesNotEndTheHost) {
+TEST_F(CommandsTest, AFaultOfTheProgramEndsTheHostInOrder) {
   form.searchButton.Click.Bind([this] { form.rangeNumbers(40).Visible = true; });
-  ExpectRefused("click Quintara.cmdSearch");
-  EXPECT_EQ(Say("click Quintara.cmdSound"), "ok\n");
+  EXPECT_EXIT(Say("click Quintara.cmdSearch"), testing::ExitedWithCode(3), "");
+  const auto fail = [this] {
+    HostPlatform(folder.path(), std::cerr).FaultFound("Label3(40) does not exist");
+  };
+  EXPECT_EXIT(fail(), testing::ExitedWithCode(3), "error: Label3\\(40\\) does not exist");
 }
 
 TEST_F(CommandsTest, SelectionsAndTheClipboard) {

@@ -33,7 +33,7 @@ inline std::vector<Saving> AllSavings() {
   const auto removeNames = [](Program& program, RecordingPlatform& platform) {
     program.Start();
     program.masters().Show();
-    platform.boxAnswers.assign(20, 6);
+    platform.boxAnswers.assign(20, Answer::Yes);
     UserClicks(program.masters().removeButton);
   };
   std::string names;

@@ -5,6 +5,7 @@
 #include <fstream>
 #include <iterator>
 #include <random>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -20,7 +21,7 @@ class RecordingPlatform : public QuietPlatform {
   explicit RecordingPlatform(std::string folder = "/nowhere") : folder_(std::move(folder)) {}
 
   std::vector<std::string> log;
-  std::deque<std::int32_t> boxAnswers;
+  std::deque<Answer> boxAnswers;
   std::deque<std::string> menuAnswers;
   FileSystem* disk = &realDisk_;
 
@@ -29,28 +30,52 @@ class RecordingPlatform : public QuietPlatform {
   void PlaySound(const DataFile& sound) override { log.push_back("sound " + sound.name); }
   void Beep() override { log.push_back("beep"); }
 
-  std::int32_t ShowMessageBox(const std::string& text, std::int32_t, const std::string&) override {
-    log.push_back("box " + text);
-    if (boxAnswers.empty()) return 1;
-    const std::int32_t answer = boxAnswers.front();
-    boxAnswers.pop_front();
-    return answer;
+  // Replies come inside the call, or wait here where `repliesLater` is set.
+  bool repliesLater = false;
+  std::deque<std::function<void()>> replies;
+
+  void ShowMessageBox(const MessageBox& box, std::function<void(Answer)> reply) override {
+    log.push_back("box " + box.text);
+    const Answer answer = TakeFrom(boxAnswers, Answer::Ok);
+    Give([reply, answer] { reply(answer); });
   }
 
-  Menu* RunPopupMenu(Form& form, Menu& menu, double, double) override {
+  void OpenPopupMenu(Form& form, Menu& menu, double, double, std::function<void(Menu*)> reply) override {
     log.push_back("popup " + std::string(menu.name()));
-    if (menuAnswers.empty()) return nullptr;
-    const std::string answer = menuAnswers.front();
-    menuAnswers.pop_front();
-    return dynamic_cast<Menu*>(form.Find(answer));
+    Object* chosen = form.Find(TakeFrom(menuAnswers, std::string()));
+    Give([reply, chosen] { reply(dynamic_cast<Menu*>(chosen)); });
+  }
+
+  // Gives the oldest reply that waits.
+  void Reply() {
+    const auto reply = replies.front();
+    replies.pop_front();
+    reply();
   }
 
   void PutOnClipboard(const std::string& text) override { log.push_back("clipboard " + text); }
   void FormShown(Form& form) override { log.push_back("show " + std::string(form.name())); }
   void FormUnloaded(Form& form) override { log.push_back("unload " + std::string(form.name())); }
   void ProgramEnded() override { log.push_back("end"); }
+  void FaultFound(const std::string& what) override { throw std::runtime_error(what); }
 
  private:
+  template <typename Reply>
+  static Reply TakeFrom(std::deque<Reply>& answers, Reply whenEmpty) {
+    if (answers.empty()) return whenEmpty;
+    Reply answer = std::move(answers.front());
+    answers.pop_front();
+    return answer;
+  }
+
+  void Give(std::function<void()> reply) {
+    if (repliesLater) {
+      replies.push_back(std::move(reply));
+    } else {
+      reply();
+    }
+  }
+
   DiskFileSystem realDisk_;
   std::string folder_;
 };
