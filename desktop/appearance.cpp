@@ -3,8 +3,6 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QWidget>
 
-#include <algorithm>
-
 #include "desktop/classic_style.h"
 #include "desktop/units.h"
 
@@ -34,17 +32,12 @@ QPalette ClassicPalette() {
   return palette;
 }
 
-// Fonts with the same widths, or at least of the same kind, for those that forms and documents name.
 void SubstituteFonts() {
-  const QStringList sans{"Liberation Sans", "Arimo", "Helvetica", "DejaVu Sans"};
-  const QStringList serif{"Liberation Serif", "Tinos", "Times", "DejaVu Serif"};
-  const QStringList mono{"Liberation Mono", "Cousine", "Courier", "DejaVu Sans Mono"};
-  const QStringList script{"Z003", "URW Chancery L", "Apple Chancery", "Monotype Corsiva"};
-  for (const char* name : {"Arial", "MS Sans Serif", "Arial Black", "Tahoma", "Verdana"})
-    QFont::insertSubstitutions(name, sans);
-  for (const char* name : {"Times New Roman", "MS Serif"}) QFont::insertSubstitutions(name, serif);
-  for (const char* name : {"Courier New", "Fixedsys"}) QFont::insertSubstitutions(name, mono);
-  QFont::insertSubstitutions("Mural Script", script + serif);
+  for (const FontStandIns& row : StandInsForFonts()) {
+    QStringList standIns;
+    for (const std::string_view font : row.standIns) standIns.append(ToQString(font));
+    for (const std::string_view font : row.named) QFont::insertSubstitutions(ToQString(font), standIns);
+  }
 }
 
 }  // namespace
@@ -67,19 +60,18 @@ QFont ToQFont(const Font& font, const Zoom& zoom) {
   result.setPixelSize(zoom(ToPixelSize(font.points)));
   // Letters keep their true widths; rounded ones would break captions in other places.
   result.setHintingPreference(QFont::PreferVerticalHinting);
-  result.setWeight(WeightOf(font.name, font.bold));
-  // What stands in for this one has upright letters.
-  result.setItalic(font.italic || font.name == "Mural Script");
+  result.setWeight(ToQWeight(WeightOf(font.name, font.bold)));
+  result.setItalic(IsSlanted(font));
   return result;
 }
 
-QFont::Weight WeightOf(std::string_view fontName, bool bold) {
-  if (fontName == "Arial Black") return QFont::Black;
-  return bold ? QFont::Bold : QFont::Normal;
-}
-
-int ToPixelSize(double points) {
-  return std::max(qRound(points * 96 / 72), 1);
+QFont::Weight ToQWeight(FontWeight weight) {
+  switch (weight) {
+    case FontWeight::Black: return QFont::Black;
+    case FontWeight::Bold: return QFont::Bold;
+    case FontWeight::Normal: break;
+  }
+  return QFont::Normal;
 }
 
 QPalette PaletteWith(QPalette::ColorRole faceRole, Colour face, QPalette::ColorRole textRole, Colour text) {

@@ -4,9 +4,8 @@
 #include <QtGui/QFont>
 #include <QtGui/QPalette>
 
-#include <string_view>
-
-#include "desktop/zoom.h"
+#include "front/fonts.h"
+#include "front/zoom.h"
 #include "scene/form.h"
 
 class QWidget;
@@ -23,10 +22,7 @@ template <typename AnyControl>
 QFont FontOf(const AnyControl& control, const Zoom& zoom = Zoom()) {
   return ToQFont(control.looks().font.value_or(control.form().looks().font), zoom);
 }
-// The weight of a font's letters; that of some fonts lies in their name.
-QFont::Weight WeightOf(std::string_view fontName, bool bold);
-// The size of letters in pixels; forms were laid out for 96 dots to the inch.
-int ToPixelSize(double points);
+QFont::Weight ToQWeight(FontWeight weight);
 
 // The palette of the grey look with other colours for a face and what is written on it.
 QPalette PaletteWith(QPalette::ColorRole faceRole, Colour face, QPalette::ColorRole textRole, Colour text);

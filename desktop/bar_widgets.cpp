@@ -3,11 +3,11 @@
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QKeyEvent>
 
-#include <cstdlib>
 #include <type_traits>
 
 #include "desktop/keyboard.h"
 #include "desktop/session.h"
+#include "front/bar_steps.h"
 #include "scene/input.h"
 
 namespace quintara::desktop {
@@ -15,7 +15,7 @@ namespace quintara::desktop {
 template <typename Bar, typename QtBar>
 BarWidget<Bar, QtBar>::BarWidget(Bar& bar, Qt::Orientation orientation, QWidget& parent, Session& session)
     : QtBar(orientation, &parent), Control(bar, *this, session), bar_(bar) {
-  this->setRange(0, std::abs(static_cast<int>(bar.Max) - bar.Min));
+  this->setRange(0, StepsOf(bar));
   this->setSingleStep(bar.SmallChange);
   this->setPageStep(bar.LargeChange);
   this->connect(this, &QtBar::valueChanged, this, &BarWidget::HandIn);
@@ -24,7 +24,7 @@ BarWidget<Bar, QtBar>::BarWidget(Bar& bar, Qt::Orientation orientation, QWidget&
 template <typename Bar, typename QtBar>
 void BarWidget<Bar, QtBar>::ShowLooks() {
   const QSignalBlocker quiet(this);
-  this->setValue(std::abs(static_cast<int>(bar_.Value.Get()) - bar_.Min));
+  this->setValue(StepsFromMin(bar_));
 }
 
 template <typename Bar, typename QtBar>
@@ -34,7 +34,7 @@ void BarWidget<Bar, QtBar>::keyPressEvent(QKeyEvent* event) {
 
 template <typename Bar, typename QtBar>
 void BarWidget<Bar, QtBar>::HandIn(int position) {
-  const int value = bar_.Min <= bar_.Max ? bar_.Min + position : bar_.Min - position;
+  const int value = ValueAt(bar_, position);
   // The range is the bar's own, so each of its values fits.
   using Number = std::remove_cv_t<decltype(bar_.Min)>;
   session_.Run([this, value] { UserDragsTo(bar_, static_cast<Number>(value)); });

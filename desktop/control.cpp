@@ -26,7 +26,7 @@ void Control::Follow(const Zoom& zoom) {
   const bool zoomed = std::exchange(zoom_, zoom) != zoom;
   if (!std::exchange(fresh_, false) && !zoomed && seen_ == box_.changes()) return;
   seen_ = box_.changes();
-  const QRect place = zoom(ToPixels(box_.Surface()));
+  const QRect place = ToQRect(zoom(ToPixels(box_.Surface())));
   if (!box_.IsEnabled()) DropFocus();
   // A scroll area lays its bars out anew only where they tell it of their new breadth.
   if (zoomed) {

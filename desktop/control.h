@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/zoom.h"
+#include "front/zoom.h"
 #include "scene/property.h"
 
 class QWidget;

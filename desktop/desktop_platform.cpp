@@ -108,7 +108,8 @@ Menu* DesktopPlatform::RunPopupMenu(Form& form, Menu& menu, double x, double y) 
     action->setEnabled(item->IsEnabled());
     items.insert(action, item);
   }
-  return items.value(popup.exec(window->mapToGlobal(window->zoom()(QPoint(ToPixels(x), ToPixels(y))))));
+  return items.value(
+      popup.exec(window->mapToGlobal(ToQPoint(window->zoom()(PixelPoint{ToPixels(x), ToPixels(y)})))));
 }
 
 void DesktopPlatform::PutOnClipboard(const std::string& text) {

@@ -5,10 +5,10 @@
 #include <cstdint>
 #include <string>
 
-#include "desktop/overlay_file_system.h"
 #include "desktop/program_folders.h"
 #include "desktop/session_platform.h"
 #include "desktop/sound_player.h"
+#include "front/players_files.h"
 #include "scene/platform.h"
 
 namespace quintara::desktop {
@@ -42,7 +42,7 @@ class DesktopPlatform final : public SessionPlatform<Platform> {
   Menu* RunPopupMenu(Form& form, Menu& menu, double x, double y);
 
   QString programFolder_;
-  OverlayFileSystem disk_;
+  PlayersFiles disk_;
   SoundPlayer sounds_;
 };
 

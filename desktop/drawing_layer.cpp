@@ -33,7 +33,7 @@ QRect DrawingLayer::Follow(const Container& container, const QSize& size, const 
   QRect changed;
   const QSize pixels = size * pixelRatio;
   if (wipes_ != container.wipes() || (!image_.isNull() && image_.size() != pixels)) {
-    changed = zoom.Around(marked_);
+    changed = ToQRect(zoom.Around(FromQt(marked_)));
     wipes_ = container.wipes();
     image_ = {};
     marked_ = {};
@@ -58,7 +58,7 @@ QRect DrawingLayer::Follow(const Container& container, const QSize& size, const 
     added |= place;
   }
   marked_ |= added;
-  return changed | zoom.Around(added);
+  return changed | ToQRect(zoom.Around(FromQt(added)));
 }
 
 void DrawingLayer::Paint(QPainter& painter) const {

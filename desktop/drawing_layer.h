@@ -6,7 +6,7 @@
 
 #include <cstddef>
 
-#include "desktop/zoom.h"
+#include "front/zoom.h"
 #include "scene/property.h"
 
 class QPainter;

@@ -14,6 +14,7 @@
 #include "desktop/screens.h"
 #include "desktop/session.h"
 #include "desktop/units.h"
+#include "front/placement.h"
 #include "scene/form.h"
 #include "scene/input.h"
 #include "scene/scene.h"
@@ -24,35 +25,6 @@ namespace {
 constexpr Qt::WindowFlags windowKind = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                        Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                                        Qt::WindowCloseButtonHint;
-
-// What the frame of a window adds to its size, on most systems somewhat less.
-constexpr int frameSides = 8;
-constexpr int frameTopAndBottom = 40;
-
-// The nearest place at which the user can take hold of the window's title bar.
-QPoint WithinReach(const QPoint& place, int width) {
-  constexpr int grip = 80;
-  constexpr int titleBar = 40;
-  const QRect screens = RoomOnAllScreens();
-  const auto between = [](int low, int value, int high) { return std::max(low, std::min(value, high)); };
-  return {between(screens.left() + grip - width, place.x(), screens.right() - grip),
-          between(screens.top(), place.y(), screens.bottom() - titleBar)};
-}
-
-// Where the whole window can be seen.
-QPoint Within(const QRect& screen, const QPoint& place, const QSize& size) {
-  const QPoint last = screen.bottomRight() - QPoint(size.width(), size.height());
-  return {std::max(screen.left(), std::min(place.x(), last.x())),
-          std::max(screen.top(), std::min(place.y(), last.y()))};
-}
-
-// The wanted zoom, or the largest at which the window fits on the screen.
-Zoom FittingZoom(const Zoom& wanted, const QSize& inner, const QRect& screen) {
-  const QSize room = screen.size() - QSize(frameSides, frameTopAndBottom);
-  const double across = static_cast<double>(room.width()) / std::max(inner.width(), 1);
-  const double down = static_cast<double>(room.height()) / std::max(inner.height(), 1);
-  return Zoom(std::min({wanted.factor(), across, down}));
-}
 
 }  // namespace
 
@@ -118,17 +90,21 @@ void FormWindow::FollowDesk() {
 
 void FormWindow::FollowFrame() {
   setWindowTitle(ToQString(form_.Caption.Get()));
-  const QSize inner(ToPixels(form_.InnerWidth()), ToPixels(form_.InnerHeight()));
-  const QRect room = RoomOn(screen());
+  const PixelSize inner{ToPixels(form_.InnerWidth()), ToPixels(form_.InnerHeight())};
+  const PixelRectangle room = FromQt(RoomOn(screen()));
   const bool zoomed = std::exchange(zoom_, FittingZoom(desk_, inner, room)) != zoom_;
-  const QSize shown = zoom_(QRect(QPoint(), inner)).size();
+  const QSize shown = QSize(zoom_(inner.width), zoom_(inner.height));
   setFixedSize(shown);
   surface_.resize(shown);
   const QPoint wanted = WantedPlace();
   if (wanted == wanted_ && isVisible() && !zoomed) return;
   wanted_ = wanted;
-  placed_ = WithinReach(wanted, shown.width());
-  if (zoom_ != desk_) placed_ = Within(room, placed_, shown + QSize(frameSides, frameTopAndBottom));
+  PixelPoint place = WithinReach(FromQt(wanted), shown.width(), FromQt(RoomOnAllScreens()));
+  if (zoom_ != desk_) {
+    const PixelSize outer{shown.width() + windowFrame.width, shown.height() + windowFrame.height};
+    place = WhollySeen(place, outer, room);
+  }
+  placed_ = ToQPoint(place);
   move(placed_);
 }
 

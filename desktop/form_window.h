@@ -6,7 +6,7 @@
 
 #include "desktop/focus_mark.h"
 #include "desktop/surface.h"
-#include "desktop/zoom.h"
+#include "front/zoom.h"
 
 namespace quintara {
 class Form;

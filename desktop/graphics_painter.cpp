@@ -8,9 +8,9 @@
 #include <cmath>
 
 #include "desktop/appearance.h"
-#include "desktop/caption_lines.h"
 #include "desktop/pictures.h"
 #include "desktop/units.h"
+#include "front/caption_lines.h"
 #include "scene/visit.h"
 
 namespace quintara::desktop {
@@ -30,13 +30,13 @@ QPen PenFor(Colour colour, int width, BorderStyle style) {
 }
 
 QRect AreaOf(const Line& line) {
-  const QLine ends = ToPixels(line.Surface());
+  const QLine ends = ToQLine(line.Surface());
   const int reach = line.looks().borderWidth / 2 + 2;
   return QRect(ends.p1(), ends.p2()).normalized().adjusted(-reach, -reach, reach, reach);
 }
 
 QRect AreaOf(const Image& image, Pictures& pictures) {
-  const QRect place = ToPixels(image.Surface());
+  const QRect place = ToQRect(ToPixels(image.Surface()));
   return image.looks().stretch ? place
                                : QRect(place.topLeft(), pictures.Embedded(image.looks().picture).size());
 }
@@ -51,39 +51,6 @@ void PaintFrame(QPainter& painter, const QRect& place) {
   painter.drawLine(place.topRight(), place.bottomRight());
 }
 
-struct FittedCaption {
-  QFont font;
-  QStringList lines;
-};
-
-bool HasRoom(const QStringList& lines, const QFontMetricsF& metrics, const QSizeF& room) {
-  constexpr double partOfLineThatMayBeCut = 0.4;
-  const auto linesShown = static_cast<int>(room.height() / metrics.height() + partOfLineThatMayBeCut);
-  const auto isTooWide = [&](QString line) {
-    while (line.endsWith(' ')) line.chop(1);
-    return metrics.horizontalAdvance(line) > room.width();
-  };
-  return lines.size() <= std::max(linesShown, 1) && std::none_of(lines.begin(), lines.end(), isTooWide);
-}
-
-// The fonts of this machine may be a little wider than those that the forms were laid out for. A caption that
-// its label has no room for is set a little tighter, if that helps. To look a font up takes long, so a wider
-// room is tried instead of tighter letters.
-FittedCaption Fit(const QString& caption, const QFont& wanted, const QSize& room) {
-  const QFontMetricsF metrics(wanted);
-  const QStringList natural = CaptionLines(caption, metrics, room.width());
-  if (HasRoom(natural, metrics, room)) return {wanted, natural};
-  for (const int stretch : {97, 94, 91, 88, 85}) {
-    const QSizeF wider(room.width() * 100.0 / stretch, room.height());
-    const QStringList lines = CaptionLines(caption, metrics, wider.width());
-    if (!HasRoom(lines, metrics, wider)) continue;
-    QFont tighter = wanted;
-    tighter.setStretch(stretch);
-    return {tighter, lines};
-  }
-  return {wanted, natural};
-}
-
 // The share of the free room that lies before a line.
 double ShareBefore(Alignment alignment) {
   return alignment == Alignment::Left ? 0 : alignment == Alignment::Right ? 1 : 0.5;
@@ -91,18 +58,24 @@ double ShareBefore(Alignment alignment) {
 
 void Paint(QPainter& painter, const Label& label) {
   const LabelLooks& looks = label.looks();
-  const QRect place = ToPixels(label.Surface());
+  const QRect place = ToQRect(ToPixels(label.Surface()));
   painter.setClipRect(place, Qt::IntersectClip);
   if (looks.backStyle == BackStyle::Opaque) painter.fillRect(place, ToQColor(label.BackColor));
   if (looks.framed) PaintFrame(painter, place);
 
   const QRect inner = looks.framed ? place.adjusted(2, 1, -2, -1) : place;
-  const FittedCaption caption = Fit(ToQString(label.Caption.Get()), FontOf(label), inner.size());
-  const QFontMetricsF metrics(caption.font);
-  painter.setFont(caption.font);
+  QFont font = FontOf(label);
+  const QFontMetricsF wanted(font);
+  const auto measure = [&wanted](std::string_view text) { return wanted.horizontalAdvance(ToQString(text)); };
+  const FittedCaption caption =
+      FitCaption(label.Caption.Get(), measure, wanted.height(), inner.width(), inner.height());
+  if (caption.stretch != 100) font.setStretch(caption.stretch);
+  const QFontMetricsF metrics(font);
+  painter.setFont(font);
   painter.setPen(ToQColor(label.ForeColor));
   qreal baseline = inner.top() + std::round(metrics.ascent());
-  for (const QString& line : caption.lines) {
+  for (const std::string& text : caption.lines) {
+    const QString line = ToQString(text);
     const qreal room = std::max(inner.width() - metrics.horizontalAdvance(line), 0.0);
     painter.drawText(QPointF(inner.left() + ShareBefore(looks.alignment) * room, baseline), line);
     baseline += std::round(metrics.height());
@@ -111,7 +84,7 @@ void Paint(QPainter& painter, const Label& label) {
 
 void Paint(QPainter& painter, const Line& line) {
   const LineLooks& looks = line.looks();
-  const QLine ends = ToPixels(line.Surface());
+  const QLine ends = ToQLine(line.Surface());
   painter.setPen(PenFor(line.BorderColor, looks.borderWidth, looks.borderStyle));
   // Upright and level lines fill whole pixels; only a slanted one is smoothed, through the pixels' centres.
   const bool slanted = ends.dx() != 0 && ends.dy() != 0;
@@ -123,7 +96,7 @@ void Paint(QPainter& painter, const Line& line) {
 void Paint(QPainter& painter, const Shape& shape) {
   const ShapeLooks& looks = shape.looks();
   const bool rectangle = looks.shape == ShapeKind::Rectangle;
-  QRectF place = ToPixels(shape.Surface());
+  QRectF place = ToQRect(ToPixels(shape.Surface()));
   if (looks.shape == ShapeKind::Circle) {
     const qreal side = std::min(place.width(), place.height());
     place =
@@ -159,7 +132,7 @@ QRect PaintedArea(const Object& object, Pictures& pictures) {
   return Visit(
       object, [](const Line& line) { return AreaOf(line); },
       [&](const Image& image) { return AreaOf(image, pictures); },
-      [](const Box& box) { return ToPixels(box.Surface()); }, [](const Object&) { return QRect(); });
+      [](const Box& box) { return ToQRect(ToPixels(box.Surface())); }, [](const Object&) { return QRect(); });
 }
 
 void PaintObject(QPainter& painter, const Object& object, Pictures& pictures) {

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "desktop/zoom.h"
+#include "front/zoom.h"
 
 class QAbstractSlider;
 class QKeyEvent;

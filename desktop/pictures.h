@@ -10,7 +10,7 @@
 #include <future>
 #include <string_view>
 
-#include "desktop/zoom.h"
+#include "front/zoom.h"
 
 namespace quintara::desktop {
 

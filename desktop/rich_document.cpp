@@ -22,7 +22,7 @@ QTextCharFormat FormatOf(const RichTextLook& look, const RichText& text, const Z
   const std::string& font = text.fonts[look.font];
   format.setFontFamilies({font.empty() ? ToQString(Font{}.name) : ToQString(font)});
   format.setProperty(QTextFormat::FontPixelSize, zoom(ToPixelSize(look.halfPoints / 2.0)));
-  format.setFontWeight(WeightOf(font, look.bold));
+  format.setFontWeight(ToQWeight(WeightOf(font, look.bold)));
   format.setFontItalic(look.italic);
   format.setFontUnderline(look.underline);
   if (look.colour) format.setForeground(ToQColor(Colour(*look.colour)));

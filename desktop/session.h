@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "desktop/pictures.h"
-#include "desktop/zoom.h"
+#include "front/zoom.h"
 
 namespace quintara {
 class Form;

@@ -125,7 +125,7 @@ void Surface::paintEvent(QPaintEvent* event) {
   painter.scale(zoom_.factor(), zoom_.factor());
   for (const Object* object : BackToFront(container_)) {
     if (!object->IsGraphical() || !object->IsVisible()) continue;
-    if (event->region().intersects(zoom_.Around(PaintedArea(*object, session_.pictures()))))
+    if (event->region().intersects(ToQRect(zoom_.Around(FromQt(PaintedArea(*object, session_.pictures()))))))
       PaintObject(painter, *object, session_.pictures());
   }
 }

@@ -8,7 +8,8 @@
 #include <vector>
 
 #include "desktop/drawing_layer.h"
-#include "desktop/zoom.h"
+#include "desktop/units.h"
+#include "front/zoom.h"
 #include "scene/container.h"
 #include "scene/picture_box.h"
 
@@ -53,7 +54,7 @@ class Surface : public QWidget {
   void MakeChildren();
   void FollowPainted();
   Painted StateOf(const Object& object) const;
-  void Repaint(const QRect& area) { update(zoom_.Around(area)); }
+  void Repaint(const QRect& area) { update(ToQRect(zoom_.Around(FromQt(area)))); }
   Object* Under(const QPoint& place) const;
 
   Container& container_;

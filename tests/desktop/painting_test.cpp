@@ -7,7 +7,7 @@
 #include <limits>
 
 #include "desktop/appearance.h"
-#include "desktop/caption_lines.h"
+#include "front/caption_lines.h"
 #include "tests/desktop/window_form.h"
 
 namespace quintara::desktop {
@@ -114,25 +114,6 @@ TEST_F(PaintingTest, TheLookOfTheSystemStaysOutside) {
   EXPECT_LE(button.fontMetrics().horizontalAdvance("A long caption"), 60);
   Do([&] { form.cmdPush.Caption = "Push"; });
   EXPECT_EQ(button.font().pixelSize(), 11);
-}
-
-TEST(CaptionLinesTest, BreaksWhereTheNextWordDoesNotFitAndKeepsTheBlanks) {
-  const QFontMetricsF metrics(ToQFont(Font{}));
-  const auto widthOf = [&](const char* text) { return metrics.horizontalAdvance(text) + 0.01; };
-  const struct {
-    const char* caption;
-    double width;
-    QStringList lines;
-  } cases[] = {{"one two", widthOf("one two"), {"one two"}},
-               {"one two", widthOf("one tw"), {"one", "two"}},
-               {" one       two", widthOf(" one     "), {" one", "  two"}},  // blanks that don't fit go on
-               {"one   two", widthOf("two"), {"one", "two"}},  // unless a word would not fit behind them
-               {"  one  two   ", 1000, {"  one  two   "}},
-               {"one two  ", widthOf("two"), {"one", "two  "}},
-               {"one two", 0, {"one", "two"}},  // a word that is too long stays whole
-               {"one\r\n\ntwo", 1000, {"one", "", "two"}}};
-  for (const auto& [caption, width, lines] : cases)
-    EXPECT_EQ(CaptionLines(caption, metrics, width), lines) << caption << " in " << width;
 }
 
 }  // namespace

@@ -10,36 +10,12 @@
 #include <cstdlib>
 #include <utility>
 
-#include "desktop/zoom.h"
+#include "front/zoom.h"
 #include "tests/desktop/game_windows.h"
 #include "tests/desktop/window_form.h"
 
 namespace quintara::desktop {
 namespace {
-
-TEST(ZoomValueTest, StepsLeadUpAndDownAndEnd) {
-  Zoom zoom;
-  EXPECT_EQ(zoom.Larger(), Zoom(1.1));
-  EXPECT_EQ(zoom.Smaller(), Zoom(0.9));
-  for (int i = 0; i < 20; ++i) zoom = zoom.Larger();
-  EXPECT_EQ(zoom, Zoom(3));
-  for (int i = 0; i < 20; ++i) zoom = zoom.Smaller();
-  EXPECT_EQ(zoom, Zoom(0.75));
-  EXPECT_EQ(Zoom(0.94).Larger(), Zoom(1)) << "from between two steps";
-}
-
-TEST(ZoomValueTest, PlacesThatTouchGoOnTouching) {
-  for (const double factor : {0.75, 0.9, 1.1, 1.25, 1.5, 1.75}) {
-    const Zoom zoom(factor);
-    for (int width = 1; width < 50; ++width) {
-      const QRect one = zoom(QRect(3, 5, width, 9)), next = zoom(QRect(3 + width, 5, 20, 9));
-      EXPECT_EQ(one.right() + 1, next.left());
-      EXPECT_TRUE(zoom.Around(QRect(3, 5, width, 9)).contains(one));
-    }
-  }
-  EXPECT_EQ(Zoom()(QRect(3, 5, 7, 9)), QRect(3, 5, 7, 9));
-  EXPECT_EQ(Zoom().Around(QRect(3, 5, 7, 9)), QRect(3, 5, 7, 9));
-}
 
 class ZoomTest : public WindowTest, public testing::WithParamInterface<double> {
  protected:

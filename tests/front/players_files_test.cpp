@@ -1,14 +1,13 @@
-#include "desktop/overlay_file_system.h"
+#include "front/players_files.h"
 
 #include <gtest/gtest.h>
 
 #include <map>
 
-#include "desktop/program_folders.h"
 #include "files/files.h"
 #include "tests/support/recording_platform.h"
 
-namespace quintara::desktop {
+namespace quintara {
 namespace {
 
 namespace fs = std::filesystem;
@@ -24,9 +23,9 @@ Contents ContentsOf(const fs::path& folder) {
 }
 
 // A game that was installed, and a player who has not played it yet.
-class OverlayTest : public testing::Test {
+class PlayersFilesTest : public testing::Test {
  protected:
-  OverlayTest() {
+  PlayersFilesTest() {
     fs::create_directory(data);
     Put(data / "Masters.txt", "Ann\r\nBob\r\n");
     Put(data / "Readme.rtf", "read me");
@@ -35,13 +34,13 @@ class OverlayTest : public testing::Test {
   TemporaryFolder folder;
   const fs::path data = folder.path() / "data";
   const fs::path own = folder.path() / "share" / "quintara";
-  OverlayFileSystem disk{data, own};
+  PlayersFiles disk{data, own};
   Files files{disk, data.string()};
   const std::string masters = data.string() + "\\Masters.txt";
   const std::string extra = data.string() + "\\extra.txt";
 };
 
-TEST_F(OverlayTest, WhatIsWrittenIsThePlayersOwn) {
+TEST_F(PlayersFilesTest, WhatIsWrittenIsThePlayersOwn) {
   const Contents shipped = ContentsOf(data);
   EXPECT_EQ(files.ReadLines(masters), (Lines{"Ann", "Bob"}));
   EXPECT_EQ(files.ReadRecord(extra, 5), std::nullopt);
@@ -57,7 +56,7 @@ TEST_F(OverlayTest, WhatIsWrittenIsThePlayersOwn) {
   EXPECT_EQ(files.ReadWhole(data.string() + "\\Readme.rtf"), "read me");
 }
 
-TEST_F(OverlayTest, WritesOverFilesThatAreShippedWriteProtected) {
+TEST_F(PlayersFilesTest, WritesOverFilesThatAreShippedWriteProtected) {
   Put(data / "extra.txt", "1         2         ");
   for (const char* name : {"Masters.txt", "extra.txt"})
     fs::permissions(data / name, fs::perms::owner_read | fs::perms::group_read);
@@ -66,7 +65,7 @@ TEST_F(OverlayTest, WritesOverFilesThatAreShippedWriteProtected) {
   disk.MakeOwnList();
   EXPECT_EQ(ContentsOf(own)["Masters.txt"], "Ann\r\nBob\r\n") << "the first start makes the list";
   EXPECT_TRUE(files.WriteLines(masters, {"Cleo"}));
-  OverlayFileSystem(data, own).MakeOwnList();
+  PlayersFiles(data, own).MakeOwnList();
   EXPECT_EQ(files.ReadLines(masters), (Lines{"Cleo"})) << "later ones leave it";
 
   fs::remove_all(own);
@@ -75,7 +74,7 @@ TEST_F(OverlayTest, WritesOverFilesThatAreShippedWriteProtected) {
   EXPECT_FALSE(fs::exists(own));
 }
 
-TEST_F(OverlayTest, WithoutAFolderOfTheirOwnThePlayerReadsAndIsToldOfEachSave) {
+TEST_F(PlayersFilesTest, WithoutAFolderOfTheirOwnThePlayerReadsAndIsToldOfEachSave) {
   Put(own.parent_path(), "a file where the folder should be");
   const Contents shipped = ContentsOf(data);
   disk.MakeOwnList();
@@ -84,7 +83,7 @@ TEST_F(OverlayTest, WithoutAFolderOfTheirOwnThePlayerReadsAndIsToldOfEachSave) {
   EXPECT_EQ(ContentsOf(data), shipped);
 }
 
-TEST_F(OverlayTest, ASaveLeavesThatOfAnotherCopyAlone) {
+TEST_F(PlayersFilesTest, ASaveLeavesThatOfAnotherCopyAlone) {
   fs::create_directories(own);
   Put(own / "Masters.txt.new0", "half a li");
   disk.MakeOwnList();
@@ -99,8 +98,8 @@ TEST_F(OverlayTest, ASaveLeavesThatOfAnotherCopyAlone) {
   EXPECT_EQ(ContentsOf(own).size(), 1u);
 }
 
-TEST_F(OverlayTest, OneFolderForAllIsUsedAsItIs) {
-  OverlayFileSystem plain(data, data);
+TEST_F(PlayersFilesTest, OneFolderForAllIsUsedAsItIs) {
+  PlayersFiles plain(data, data);
   plain.MakeOwnList();
   const Files beside(plain, data.string());
   EXPECT_TRUE(beside.WriteRecord(extra, 1, "7"));
@@ -109,26 +108,5 @@ TEST_F(OverlayTest, OneFolderForAllIsUsedAsItIs) {
       (Contents{{"Masters.txt", "Ann\r\nBob\r\n"}, {"Readme.rtf", "read me"}, {"extra.txt", "7         "}}));
 }
 
-TEST(ProgramFoldersTest, AreWhereTheProgramWasBuiltUnpackedOrInstalled) {
-  const TemporaryFolder folder;
-  const QString root = QString::fromStdString(folder.text());
-  const auto found = [&] {
-    const ProgramFolders folders = FindFolders(root + "/bin", "../share/quintara/data", "/home/own");
-    return QString(folders.data + " " + folders.own).remove(root + "/").toStdString();
-  };
-  fs::create_directories(folder.path() / "bin");
-  EXPECT_EQ(found(), "bin/data /home/own") << "none there";
-  fs::create_directories(folder.path() / "share/quintara/data");
-  EXPECT_EQ(found(), "share/quintara/data /home/own");
-  const fs::path beside = folder.path() / "bin/data";
-  fs::create_directories(beside);
-  EXPECT_EQ(found(), "bin/data bin/data");
-
-  fs::permissions(beside, fs::perms::owner_write, fs::perm_options::remove);
-  const bool writesAnyway = std::ofstream(beside / "try").good();
-  EXPECT_EQ(found(), writesAnyway ? "bin/data bin/data" : "bin/data /home/own");
-  fs::permissions(beside, fs::perms::owner_write, fs::perm_options::add);
-}
-
 }  // namespace
-}  // namespace quintara::desktop
+}  // namespace quintara

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QtCore/QPoint>
-#include <QtCore/QRect>
+#include "front/pixels.h"
 
-namespace quintara::desktop {
+namespace quintara {
 
 // How large windows are shown: from the pixels in which forms are laid out to those of the screen. At a
 // factor of 1 they are the same.
@@ -16,12 +15,12 @@ class Zoom {
   Zoom Larger() const;
   Zoom Smaller() const;
 
-  int operator()(int length) const { return qRound(length * factor_); }
-  QPoint operator()(const QPoint& place) const { return place * factor_; }
+  int operator()(int length) const { return static_cast<int>(std::lround(length * factor_)); }
+  PixelPoint operator()(const PixelPoint& place) const { return {(*this)(place.x), (*this)(place.y)}; }
   // What touches stays touching.
-  QRect operator()(const QRect& place) const;
+  PixelRectangle operator()(const PixelRectangle& place) const;
   // Every pixel that painting in this place may reach.
-  QRect Around(const QRect& place) const;
+  PixelRectangle Around(const PixelRectangle& place) const;
 
   friend constexpr bool operator==(const Zoom&, const Zoom&) = default;
 
@@ -29,4 +28,4 @@ class Zoom {
   double factor_;
 };
 
-}  // namespace quintara::desktop
+}  // namespace quintara

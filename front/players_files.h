@@ -4,15 +4,15 @@
 
 #include "files/file_system.h"
 
-namespace quintara::desktop {
+namespace quintara {
 
 // The files of this machine, but those that the program writes, the list of masters and extra.txt, lie in a
 // folder of the player's own, together with what is written beside them while they are saved. Until the
 // player has one, the file of the program's folder shows through; it is read and never written. With both
 // folders the same, nothing is mapped.
-class OverlayFileSystem final : public FileSystem {
+class PlayersFiles final : public FileSystem {
  public:
-  OverlayFileSystem(std::filesystem::path programFolder, std::filesystem::path ownFolder)
+  PlayersFiles(std::filesystem::path programFolder, std::filesystem::path ownFolder)
       : programFolder_(std::move(programFolder)), ownFolder_(std::move(ownFolder)) {}
 
   // At the first start, makes the player's list of masters from that of the program's folder. Where it can't,
@@ -35,4 +35,4 @@ class OverlayFileSystem final : public FileSystem {
   std::filesystem::path ownFolder_;
 };
 
-}  // namespace quintara::desktop
+}  // namespace quintara
