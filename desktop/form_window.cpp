@@ -6,7 +6,6 @@
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
 
-#include <algorithm>
 #include <utility>
 
 #include "desktop/assistance.h"
@@ -14,7 +13,6 @@
 #include "desktop/screens.h"
 #include "desktop/session.h"
 #include "desktop/units.h"
-#include "front/placement.h"
 #include "scene/form.h"
 #include "scene/input.h"
 #include "scene/scene.h"
@@ -32,6 +30,7 @@ FormWindow::FormWindow(Form& form, Session& session)
     : QWidget(nullptr, windowKind),
       form_(form),
       session_(session),
+      place_(form, session.zoom()),
       desk_(session.zoom()),
       surface_(form, *this, session),
       focusMark_(*this) {
@@ -69,47 +68,21 @@ void FormWindow::FollowScreen() {
 }
 
 void FormWindow::Follow() {
-  if (desk_ != session_.zoom()) FollowDesk();
-  if (std::exchange(fresh_, false) || seen_ != form_.changes()) {
-    seen_ = form_.changes();
-    FollowFrame();
-  }
-  surface_.FollowSurface(zoom_);
+  const bool zoomed = std::exchange(desk_, session_.zoom()) != session_.zoom();
+  if (std::exchange(fresh_, false) || zoomed || seen_ != form_.changes()) FollowFrame();
+  surface_.FollowSurface(zoom());
   if (focusSeen_ != form_.focusMoves()) FollowFocus();
   focusMark_.Follow();
 }
 
-// The desk has grown or shrunk below the window, which keeps its place on the screen.
-void FormWindow::FollowDesk() {
-  desk_ = session_.zoom();
-  form_.Left = ToTwips(placed_.x()) / desk_.factor();
-  form_.Top = ToTwips(placed_.y()) / desk_.factor();
-  wanted_ = WantedPlace();
-  fresh_ = true;
-}
-
 void FormWindow::FollowFrame() {
   setWindowTitle(ToQString(form_.Caption.Get()));
-  const PixelSize inner{ToPixels(form_.InnerWidth()), ToPixels(form_.InnerHeight())};
-  const PixelRectangle room = FromQt(RoomOn(screen()));
-  const bool zoomed = std::exchange(zoom_, FittingZoom(desk_, inner, room)) != zoom_;
-  const QSize shown = QSize(zoom_(inner.width), zoom_(inner.height));
-  setFixedSize(shown);
-  surface_.resize(shown);
-  const QPoint wanted = WantedPlace();
-  if (wanted == wanted_ && isVisible() && !zoomed) return;
-  wanted_ = wanted;
-  PixelPoint place = WithinReach(FromQt(wanted), shown.width(), FromQt(RoomOnAllScreens()));
-  if (zoom_ != desk_) {
-    const PixelSize outer{shown.width() + windowFrame.width, shown.height() + windowFrame.height};
-    place = WhollySeen(place, outer, room);
-  }
-  placed_ = ToQPoint(place);
-  move(placed_);
-}
-
-QPoint FormWindow::WantedPlace() const {
-  return {ToPixels(form_.Left.Get() * desk_.factor()), ToPixels(form_.Top.Get() * desk_.factor())};
+  const Screens screens{FromQt(RoomOn(screen())), FromQt(RoomOnAllScreens())};
+  const bool moves = place_.Follow(desk_, screens, isVisible());
+  seen_ = form_.changes();
+  setFixedSize(ToQSize(place_.size()));
+  surface_.resize(ToQSize(place_.size()));
+  if (moves) move(ToQPoint(place_.place()));
 }
 
 void FormWindow::FollowFocus() {
@@ -163,12 +136,7 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 
 void FormWindow::moveEvent(QMoveEvent* event) {
   QWidget::moveEvent(event);
-  if (!isVisible() || isMinimized() || pos() == placed_) return;
-  // The user moved the window. Other forms are placed beside this one, so the Scene has to know.
-  const QPoint old = std::exchange(placed_, pos());
-  if (placed_.x() != old.x()) form_.Left = ToTwips(placed_.x()) / desk_.factor();
-  if (placed_.y() != old.y()) form_.Top = ToTwips(placed_.y()) / desk_.factor();
-  wanted_ = WantedPlace();
+  if (isVisible() && !isMinimized() && FromQt(pos()) != place_.place()) place_.MovedTo(FromQt(pos()));
 }
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {

@@ -6,7 +6,7 @@
 
 #include "desktop/focus_mark.h"
 #include "desktop/surface.h"
-#include "front/zoom.h"
+#include "front/window_place.h"
 
 namespace quintara {
 class Form;
@@ -30,7 +30,7 @@ class FormWindow final : public QWidget {
   QWidget* WidgetOf(const Object& object) const;
   Surface& surface() { return surface_; }
   // How large it is shown: as all windows are, or smaller where the screen has no room for that.
-  const Zoom& zoom() const { return zoom_; }
+  const Zoom& zoom() const { return place_.zoom(); }
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -41,21 +41,17 @@ class FormWindow final : public QWidget {
  private:
   void LayTabOrder();
   void FollowScreen();
-  void FollowDesk();
   void FollowFrame();
-  QPoint WantedPlace() const;
   void FollowFocus();
 
   Form& form_;
   Session& session_;
-  Zoom desk_;  // how large all windows are to be
-  Zoom zoom_;
+  WindowPlace place_;
+  Zoom desk_;  // how large all windows are to be, as it was seen last
   Surface surface_;
   FocusMark focusMark_;
   QPointer<QWidget> lostFocus_;  // where the focus was before nothing had it
   QMetaObject::Connection screenWatch_;
-  QPoint wanted_;  // the frame's place as the Scene told it last, or as the user moved it since
-  QPoint placed_;  // where the frame was put, which keeps it within reach on the screen
   ChangeCount seen_ = 0;
   ChangeCount focusSeen_ = 0;
   bool fresh_ = true;

@@ -24,7 +24,7 @@ void Retire(FormWindow* window) {
 
 }  // namespace
 
-Session::Session(Scene& scene) : scene_(scene) {
+Session::Session(Scene& scene) : scene_(scene), pacing_(scene) {
   realTime_.start();
   nextTick_.setSingleShot(true);
   nextTick_.setTimerType(Qt::PreciseTimer);
@@ -36,13 +36,12 @@ Session::~Session() {
 }
 
 void Session::Run(const std::function<void()>& input) {
-  CatchUp();
+  pacing_.CatchUp(realTime_.elapsed());
   RunGuarded(input);
 }
 
 void Session::Tick() {
-  CatchUp();
-  RunGuarded([this] { scene_.dispatcher().Advance(0); });
+  RunGuarded([this] { pacing_.Tick(realTime_.elapsed()); });
 }
 
 void Session::RunGuarded(const std::function<void()>& work) {
@@ -50,31 +49,18 @@ void Session::RunGuarded(const std::function<void()>& work) {
   try {
     work();
   } catch (const std::exception& fault) {
-    TellFault(fault.what());
+    qWarning("Quintara: %s", fault.what());
+    pacing_.TellFault(fault.what());
   }
   Settle();
 }
 
-void Session::TellFault(const std::string& what) {
-  qWarning("Quintara: %s", what.c_str());
-  // A timer may meet the same fault at each of its ticks.
-  if (told_.insert(what).second)
-    scene_.TellFault("Something went wrong inside the game: " + what + ". The game goes on without it.");
-}
-
-void Session::CatchUp() {
-  Dispatcher& dispatcher = scene_.dispatcher();
-  dispatcher.PassTime(realTime_.elapsed() - dispatcher.now());
-}
-
 void Session::Settle() {
   // A handler that waits for the user settles when it is done; until then nothing may tick.
-  Dispatcher& dispatcher = scene_.dispatcher();
-  if (dispatcher.busy()) return;
+  if (scene_.dispatcher().busy()) return;
   ShowChanges();
-  const auto due = dispatcher.NextDue();
-  if (due) {
-    nextTick_.start(static_cast<int>(std::clamp<qint64>(*due - realTime_.elapsed(), 0, 60'000)));
+  if (const auto rest = pacing_.Rest(realTime_.elapsed())) {
+    nextTick_.start(static_cast<int>(*rest));
   } else {
     nextTick_.stop();
   }

@@ -8,11 +8,10 @@
 #include <map>
 #include <memory>
 #include <optional>
-#include <set>
-#include <string>
 #include <vector>
 
 #include "desktop/pictures.h"
+#include "front/pacing.h"
 #include "front/zoom.h"
 
 namespace quintara {
@@ -41,7 +40,7 @@ class Session {
   // Shows the Scene as it stands in the middle of a handler that is about to wait for the user.
   void BeginWaiting();
   // The handler goes on: no timer ticked in the time that it waited.
-  void EndWaiting() { CatchUp(); }
+  void EndWaiting() { pacing_.CatchUp(realTime_.elapsed()); }
 
   void FormShown(Form& form);
   void FormUnloaded(Form& form);
@@ -65,10 +64,8 @@ class Session {
   Pictures& pictures() { return pictures_; }
 
  private:
-  void CatchUp();
   void Tick();
   void RunGuarded(const std::function<void()>& work);
-  void TellFault(const std::string& what);
   void Settle();
   void ShowChanges();
 
@@ -76,11 +73,11 @@ class Session {
   Zoom zoom_;
   Pictures pictures_;
   QElapsedTimer realTime_;
+  Pacing pacing_;
   QTimer nextTick_;
   std::map<const Form*, std::unique_ptr<FormWindow, void (*)(FormWindow*)>> windows_;
   std::vector<Form*> toShow_;
   std::optional<QPoint> pointer_;
-  std::set<std::string> told_;
 };
 
 }  // namespace quintara::desktop
