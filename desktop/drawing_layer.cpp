@@ -28,19 +28,19 @@ void PaintDot(QPainter& painter, const Dot& dot, const QRect& place) {
 
 }  // namespace
 
-QRect DrawingLayer::Follow(const Container& container, const QSize& size, const Zoom& zoom,
-                           qreal pixelRatio) {
+QRect DrawingLayer::Follow(const Container& container, const SurfaceChanges& changes, const QSize& size,
+                           const Zoom& zoom, qreal pixelRatio) {
   QRect changed;
   const QSize pixels = size * pixelRatio;
-  if (wipes_ != container.wipes() || (!image_.isNull() && image_.size() != pixels)) {
+  const auto& dots = container.dots();
+  // A layer that changed its size is drawn anew.
+  std::size_t next = image_.isNull() || image_.size() != pixels ? 0 : changes.firstNewMark;
+  if (changes.wiped || (!image_.isNull() && image_.size() != pixels)) {
     changed = ToQRect(zoom.Around(FromQt(marked_)));
-    wipes_ = container.wipes();
     image_ = {};
     marked_ = {};
-    drawn_ = 0;
   }
-  const auto& dots = container.dots();
-  if (drawn_ == dots.size() || size.isEmpty()) return changed;
+  if (next == dots.size() || size.isEmpty()) return changed;
 
   if (image_.isNull()) {
     image_ = QImage(pixels, QImage::Format_ARGB32_Premultiplied);
@@ -52,9 +52,9 @@ QRect DrawingLayer::Follow(const Container& container, const QSize& size, const 
   painter.setRenderHint(QPainter::Antialiasing);
   painter.scale(zoom.factor(), zoom.factor());
   QRect added;
-  for (; drawn_ < dots.size(); ++drawn_) {
-    const QRect place = PlaceOf(dots[drawn_]);
-    PaintDot(painter, dots[drawn_], place);
+  for (; next < dots.size(); ++next) {
+    const QRect place = PlaceOf(dots[next]);
+    PaintDot(painter, dots[next], place);
     added |= place;
   }
   marked_ |= added;

@@ -49,7 +49,7 @@ std::vector<Object*> BackToFront(const Container& container) {
 }  // namespace
 
 Surface::Surface(Container& container, QWidget& parent, Session& session)
-    : QWidget(&parent), container_(container), session_(session) {
+    : QWidget(&parent), container_(container), session_(session), watch_(container) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
   MakeChildren();
@@ -64,9 +64,10 @@ void Surface::FollowSurface(const Zoom& zoom) {
     update();
   }
   FollowBackground();
-  FollowPainted();
+  const SurfaceChanges changes = watch_.Look();
+  FollowPainted(changes);
   for (const Child& child : children_) child.control->Follow(zoom_);
-  update(layer_.Follow(container_, size(), zoom_, pixelRatio_));
+  update(layer_.Follow(container_, changes, size(), zoom_, pixelRatio_));
 }
 
 void Surface::FollowBackground() {
@@ -89,25 +90,26 @@ void Surface::MakeChildren() {
   }
 }
 
-void Surface::FollowPainted() {
-  if (childrenSeen_ != container_.childrenChanges()) {
-    childrenSeen_ = container_.childrenChanges();
+void Surface::FollowPainted(const SurfaceChanges& changes) {
+  if (changes.children) {
     painted_.clear();
     for (const Object* object : container_.children()) {
-      if (object->IsGraphical()) painted_.push_back(StateOf(*object));
+      if (object->IsGraphical()) painted_.emplace(object, StateOf(*object));
     }
     return update();
   }
-  for (Painted& painted : painted_) {
-    if (painted.seen == painted.object->changes()) continue;
+  for (const Object* object : changes.objects) {
+    const auto found = painted_.find(object);
+    if (found == painted_.end()) continue;
+    Painted& painted = found->second;
     if (painted.visible) Repaint(painted.area);
-    painted = StateOf(*painted.object);
+    painted = StateOf(*object);
     if (painted.visible) Repaint(painted.area);
   }
 }
 
 Surface::Painted Surface::StateOf(const Object& object) const {
-  return {&object, object.changes(), object.IsVisible(), PaintedArea(object, session_.pictures())};
+  return {object.IsVisible(), PaintedArea(object, session_.pictures())};
 }
 
 QWidget* Surface::WidgetOf(const Object& object) const {

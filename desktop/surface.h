@@ -4,11 +4,13 @@
 #include <QtGui/QPixmap>
 #include <QtWidgets/QWidget>
 
+#include <map>
 #include <optional>
 #include <vector>
 
 #include "desktop/drawing_layer.h"
 #include "desktop/units.h"
+#include "front/surface_watch.h"
 #include "front/zoom.h"
 #include "scene/container.h"
 #include "scene/picture_box.h"
@@ -38,10 +40,8 @@ class Surface : public QWidget {
   void mouseMoveEvent(QMouseEvent* event) override;
 
  private:
-  // A graphical object as it was painted last.
+  // Where a graphical object was painted last.
   struct Painted {
-    const Object* object;
-    ChangeCount seen;
     bool visible;
     QRect area;
   };
@@ -52,7 +52,7 @@ class Surface : public QWidget {
 
   void FollowBackground();
   void MakeChildren();
-  void FollowPainted();
+  void FollowPainted(const SurfaceChanges& changes);
   Painted StateOf(const Object& object) const;
   void Repaint(const QRect& area) { update(ToQRect(zoom_.Around(FromQt(area)))); }
   Object* Under(const QPoint& place) const;
@@ -66,8 +66,8 @@ class Surface : public QWidget {
   std::optional<Picture> shownPicture_;
   std::optional<Colour> shownColour_;
   std::vector<Child> children_;
-  std::vector<Painted> painted_;
-  std::optional<ChangeCount> childrenSeen_;
+  SurfaceWatch watch_;
+  std::map<const Object*, Painted> painted_;
   const Object* pressed_ = nullptr;
 };
 
