@@ -25,8 +25,8 @@
 #include "desktop/application.h"
 #include "desktop/form_window.h"
 #include "desktop/session.h"
-#include "desktop/tour_platform.h"
 #include "desktop/units.h"
+#include "front/tour_platform.h"
 #include "program/program.h"
 #include "scene/input.h"
 #include "tests/support/resident_memory.h"
@@ -42,9 +42,9 @@ void WaitUntilOnScreen(const QWidget& window) {
 constexpr int formWidth = 1015, formHeight = 713;
 
 struct Game {
-  TourPlatform platform{QString(PROJECT_FOLDER "/data")};
+  TourPlatform platform{PROJECT_FOLDER "/data"};
   Program program{platform};
-  Session session{program.scene()};
+  Session session{program.scene(), AssistanceTable(program)};
   QuintaraForm& form = program.quintara();
 
   Game() {

@@ -6,7 +6,6 @@
 
 #include <utility>
 
-#include "desktop/assistance.h"
 #include "desktop/bar_widgets.h"
 #include "desktop/button_widgets.h"
 #include "desktop/form_window.h"
@@ -14,6 +13,7 @@
 #include "desktop/list_widget.h"
 #include "desktop/picture_widget.h"
 #include "desktop/rich_text_widget.h"
+#include "desktop/session.h"
 #include "desktop/text_widget.h"
 #include "desktop/units.h"
 #include "scene/visit.h"
@@ -52,14 +52,14 @@ void Control::DropFocus() {
 // The name also tells the value, which another control may show.
 void Control::FollowName() {
   if (!std::exchange(named_, true)) {
-    assistance_ = AssistanceFor(box_);
-    readOut_ = ReadOutOf(box_);
-    widget_.setToolTip(ToolTipOf(box_));
+    assistance_ = session_.assistance().For(box_);
+    readOut_ = session_.assistance().ReadOutOf(box_);
+    widget_.setToolTip(ToQString(session_.assistance().ToolTipOf(box_)));
   } else if (seen_ == box_.changes() && (readOut_ == nullptr || readOutSeen_ == readOut_->changes())) {
     return;
   }
   if (readOut_ != nullptr) readOutSeen_ = readOut_->changes();
-  const QString name = AccessibleNameOf(box_);
+  const QString name = ToQString(session_.assistance().NameOf(box_));
   if (name == widget_.accessibleName()) return;
   widget_.setAccessibleName(name);
   if (assistance_ == nullptr || !assistance_->announced || !IsShown(box_)) return;
@@ -84,7 +84,7 @@ Control* MakeControl(Object& object, QWidget& parent, Session& session) {
         if (image.Click.bound()) made = new ImageButton(image, parent, session);
       },
       [&](Label& label) {
-        if (AssistanceFor(label) != nullptr) made = new ReadOut(label, parent, session);
+        if (session.assistance().For(label) != nullptr) made = new ReadOut(label, parent, session);
       },
       [](Line&) {}, [](Shape&) {}, [](Timer&) {}, [](Menu&) {}, [](Form&) {});
   return made;

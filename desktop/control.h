@@ -6,13 +6,13 @@
 class QWidget;
 
 namespace quintara {
+struct Assistance;
 class Box;
 class Object;
 }  // namespace quintara
 
 namespace quintara::desktop {
 
-struct Assistance;
 class Session;
 
 // A widget that stands for an object with a surface of its own. Widgets of all kinds take this over.

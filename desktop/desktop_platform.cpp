@@ -49,10 +49,10 @@ DesktopPlatform::DesktopPlatform(const ProgramFolders& folders)
 }
 
 double DesktopPlatform::ScreenWidth() {
-  return ToTwips(MainScreenSize().width()) / ZoomOf(session()).factor();
+  return ToTwips(MainScreenSize().width()) / ZoomOf(windows()).factor();
 }
 double DesktopPlatform::ScreenHeight() {
-  return ToTwips(MainScreenSize().height()) / ZoomOf(session()).factor();
+  return ToTwips(MainScreenSize().height()) / ZoomOf(windows()).factor();
 }
 
 std::uint64_t DesktopPlatform::Seed() {
@@ -80,23 +80,23 @@ void DesktopPlatform::OpenPopupMenu(Form& form, Menu& menu, double x, double y,
 Answer DesktopPlatform::RunMessageBox(const MessageBox& question) {
   const bool asks = question.buttons == MessageBox::Buttons::YesAndNo;
   // A box goes with the window that it belongs to.
-  QMessageBox box(session() != nullptr ? session()->ActiveWindow() : nullptr);
-  box.setFont(ToQFont(Font{}, ZoomOf(session())));
+  QMessageBox box(windows() != nullptr ? windows()->ActiveWindow() : nullptr);
+  box.setFont(ToQFont(Font{}, ZoomOf(windows())));
   box.setWindowTitle(ToQString(question.title));
   box.setTextFormat(Qt::PlainText);
   box.setText(ToQString(question.text));
   box.setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No
                               : QMessageBox::StandardButtons(QMessageBox::Ok));
   box.setIcon(QMessageBox::Warning);
-  const Waiting waiting(session());
+  const Waiting waiting(windows());
   const int chosen = box.exec();
   if (!asks) return Answer::Ok;
   return chosen == QMessageBox::Yes ? Answer::Yes : Answer::No;
 }
 
 Menu* DesktopPlatform::RunPopupMenu(Form& form, Menu& menu, double x, double y) {
-  const Waiting waiting(session());
-  FormWindow* window = session() != nullptr ? session()->WindowOf(form) : nullptr;
+  const Waiting waiting(windows());
+  FormWindow* window = windows() != nullptr ? windows()->WindowOf(form) : nullptr;
   if (window == nullptr) return nullptr;
   QMenu popup(window);
   popup.setFont(ToQFont(Font{}, window->zoom()));

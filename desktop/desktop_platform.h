@@ -6,15 +6,16 @@
 #include <string>
 
 #include "desktop/program_folders.h"
-#include "desktop/session_platform.h"
+#include "desktop/session.h"
 #include "desktop/sound_player.h"
 #include "front/players_files.h"
+#include "front/windows.h"
 #include "scene/platform.h"
 
 namespace quintara::desktop {
 
 // What the Scene asks of the world, done by Qt.
-class DesktopPlatform final : public SessionPlatform<Platform> {
+class DesktopPlatform final : public WindowsPlatform<Platform, Session> {
  public:
   explicit DesktopPlatform(const ProgramFolders& folders);
   explicit DesktopPlatform(const QString& programFolder)

@@ -8,7 +8,6 @@
 
 #include <utility>
 
-#include "desktop/assistance.h"
 #include "desktop/keyboard.h"
 #include "desktop/screens.h"
 #include "desktop/session.h"
@@ -46,7 +45,7 @@ void FormWindow::LayTabOrder() {
   // Only what can have the focus takes part, and the order begins at the window.
   setFocusPolicy(Qt::ClickFocus);
   QWidget* last = this;
-  for (const Object* object : InTabOrder(form_)) {
+  for (const Object* object : session_.assistance().InTabOrder(form_)) {
     QWidget* widget = WidgetOf(*object);
     if (widget == nullptr || (widget->focusPolicy() & Qt::TabFocus) == 0) continue;
     setTabOrder(last, widget);
@@ -145,7 +144,7 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape) {
     const bool isMain = &form_ == session_.scene().forms().front();
     if (!isMain) close();
-  } else if (Object* object = ObjectForKey(form_, *event)) {
+  } else if (Object* object = session_.assistance().ForKey(form_, NameOfKey(*event))) {
     if (!event->isAutoRepeat()) session_.Run([object] { UserClicks(*object); });
   } else {
     QWidget::keyPressEvent(event);

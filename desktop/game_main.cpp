@@ -49,7 +49,7 @@ int RunGame(int argumentCount, char** arguments) {
   Program program(platform);
   int result = 0;
   {
-    Session session(program.scene());
+    Session session(program.scene(), AssistanceTable(program));
     platform.Attach(&session);
     session.Run([&program] { program.Start(); });
     if (!program.scene().ended()) result = Application::exec();

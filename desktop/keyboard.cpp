@@ -4,11 +4,6 @@
 #include <QtGui/QKeySequence>
 #include <QtWidgets/QAbstractSlider>
 
-#include "desktop/assistance.h"
-#include "desktop/units.h"
-#include "scene/form.h"
-#include "scene/scene.h"
-
 namespace quintara::desktop {
 namespace {
 
@@ -56,17 +51,9 @@ std::optional<Zoom> ZoomByKey(const Zoom& zoom, const QKeyEvent& event) {
   }
 }
 
-Object* ObjectForKey(const Form& form, const QKeyEvent& event) {
-  const bool inAllWindows = event.key() >= Qt::Key_F1 && event.key() <= Qt::Key_F35;
-  const QKeySequence pressed(QKeyCombination(CommandsOf(event), static_cast<Qt::Key>(event.key())));
-  for (const Assistance& row : AssistanceTable()) {
-    if (row.keys.empty() || (row.form != form.name() && !inAllWindows)) continue;
-    if (!QKeySequence::listFromString(ToQString(row.keys), QKeySequence::PortableText).contains(pressed))
-      continue;
-    const Form* owner = form.scene().FindForm(row.form);
-    if (owner != nullptr) return owner->Find(row.control);
-  }
-  return nullptr;
+std::string NameOfKey(const QKeyEvent& event) {
+  const QKeyCombination pressed(CommandsOf(event), static_cast<Qt::Key>(event.key()));
+  return QKeySequence(pressed).toString(QKeySequence::PortableText).toStdString();
 }
 
 }  // namespace quintara::desktop

@@ -1,16 +1,12 @@
 #pragma once
 
 #include <optional>
+#include <string>
 
 #include "front/zoom.h"
 
 class QAbstractSlider;
 class QKeyEvent;
-
-namespace quintara {
-class Form;
-class Object;
-}  // namespace quintara
 
 namespace quintara::desktop {
 
@@ -24,7 +20,7 @@ bool MoveByKey(QAbstractSlider& bar, const QKeyEvent& event);
 // Ctrl with plus, minus or 0: how large windows are to be from now on.
 std::optional<Zoom> ZoomByKey(const Zoom& zoom, const QKeyEvent& event);
 
-// The object that a key clicks in the window of a form, or null.
-Object* ObjectForKey(const Form& form, const QKeyEvent& event);
+// A key as the tables of assistance write it: "S", "F1", "Ctrl+C".
+std::string NameOfKey(const QKeyEvent& event);
 
 }  // namespace quintara::desktop

@@ -24,7 +24,8 @@ void Retire(FormWindow* window) {
 
 }  // namespace
 
-Session::Session(Scene& scene) : scene_(scene), pacing_(scene) {
+Session::Session(Scene& scene, AssistanceTable assistance)
+    : scene_(scene), assistance_(std::move(assistance)), pacing_(scene) {
   realTime_.start();
   nextTick_.setSingleShot(true);
   nextTick_.setTimerType(Qt::PreciseTimer);

@@ -11,7 +11,9 @@
 #include <vector>
 
 #include "desktop/pictures.h"
+#include "front/assistance.h"
 #include "front/pacing.h"
+#include "front/windows.h"
 #include "front/zoom.h"
 
 namespace quintara {
@@ -25,10 +27,10 @@ class FormWindow;
 
 // A running program on the screen: a window for each of its forms, and the real time that drives its timers.
 // While nothing happens it sleeps until the next tick is due.
-class Session {
+class Session final : public Windows {
  public:
   // The scene must outlive the session.
-  explicit Session(Scene& scene);
+  explicit Session(Scene& scene, AssistanceTable assistance = {});
   ~Session();
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
@@ -42,9 +44,9 @@ class Session {
   // The handler goes on: no timer ticked in the time that it waited.
   void EndWaiting() { pacing_.CatchUp(realTime_.elapsed()); }
 
-  void FormShown(Form& form);
-  void FormUnloaded(Form& form);
-  void ProgramEnded();
+  void FormShown(Form& form) override;
+  void FormUnloaded(Form& form) override;
+  void ProgramEnded() override;
 
   // Whether the pointer has come to another place since the last call. Windows also report a move when
   // something appears or vanishes below a pointer at rest.
@@ -61,6 +63,7 @@ class Session {
   // moment ago and is about to go.
   FormWindow* ActiveWindow() const;
   Scene& scene() const { return scene_; }
+  const AssistanceTable& assistance() const { return assistance_; }
   Pictures& pictures() { return pictures_; }
 
  private:
@@ -70,6 +73,7 @@ class Session {
   void ShowChanges();
 
   Scene& scene_;
+  AssistanceTable assistance_;
   Zoom zoom_;
   Pictures pictures_;
   QElapsedTimer realTime_;

@@ -10,7 +10,6 @@
 #include <utility>
 
 #include "desktop/appearance.h"
-#include "desktop/assistance.h"
 #include "desktop/control.h"
 #include "desktop/graphics_painter.h"
 #include "desktop/session.h"
@@ -143,7 +142,8 @@ Object* Surface::Under(const QPoint& place) const {
 bool Surface::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip) return QWidget::event(event);
   const auto* help = static_cast<QHelpEvent*>(event);
-  QToolTip::showText(help->globalPos(), ToolTipOf(*Under(help->pos())), this);
+  QToolTip::showText(help->globalPos(), ToQString(session_.assistance().ToolTipOf(*Under(help->pos()))),
+                     this);
   return true;
 }
 

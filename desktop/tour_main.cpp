@@ -11,7 +11,7 @@
 
 #include "desktop/application.h"
 #include "desktop/program_folders.h"
-#include "desktop/tour.h"
+#include "desktop/tour_pictures.h"
 
 namespace quintara::desktop {
 namespace {
@@ -76,12 +76,12 @@ void PlayInto(const QString& folder) {
   QElapsedTimer time;
   time.start();
   int stages = 0;
-  Tour tour(data, [&](const QString& name, const QImage& picture) {
+  TourPictures tour(data, [&](const QString& name, const QImage& picture) {
     const bool numbered = !name.startsWith("screenshot");
     const QString number = numbered ? QString("%1-").arg(++stages, 2, 10, QChar('0')) : QString();
     WritePicture(QString("%1/%2%3.png").arg(folder, number, name), picture);
   });
-  tour.Play();
+  if (const std::string fault = tour.Play(); !fault.empty()) Fail(QString::fromStdString(fault));
   std::printf("All went well: %d stages in %.1f seconds.\n", stages,
               static_cast<double>(time.elapsed()) / 1000);
 }

@@ -5,12 +5,9 @@
 #include <QtGui/QPalette>
 #include <QtWidgets/QToolTip>
 
-#include <algorithm>
-#include <set>
 #include <utility>
 
 #include "desktop/appearance.h"
-#include "desktop/assistance.h"
 #include "tests/desktop/game_windows.h"
 
 namespace quintara::desktop {
@@ -40,20 +37,6 @@ TEST_F(AccessibilityTest, EveryControlThatTakesTheFocusHasAName) {
       EXPECT_NE(NameOf(*object), "") << FullName(*object);
     }
     EXPECT_GT(controls, 0) << form->name();
-  }
-}
-
-TEST_F(AccessibilityTest, EveryRowOfTheTableIsAboutAControl) {
-  std::set<std::pair<std::string_view, std::string_view>> keys;
-  for (const Assistance& row : AssistanceTable()) {
-    const auto& forms = program.scene().forms();
-    const auto form =
-        std::find_if(forms.begin(), forms.end(), [&](const Form* f) { return f->name() == row.form; });
-    ASSERT_NE(form, forms.end()) << row.form;
-    EXPECT_NE((*form)->Find(row.control), nullptr) << row.form << '.' << row.control;
-    EXPECT_TRUE(row.readOut.empty() || (*form)->Find(row.readOut) != nullptr)
-        << row.form << '.' << row.readOut;
-    EXPECT_TRUE(row.keys.empty() || keys.insert({row.form, row.keys}).second) << row.keys << " twice";
   }
 }
 

@@ -84,7 +84,7 @@ class GameWindows : public testing::Test {
   DesktopPlatform platform{QString::fromStdString(folder.text())};
   Program program{platform};
   QuintaraForm& main = program.quintara();
-  Session session{program.scene()};
+  Session session{program.scene(), AssistanceTable(program)};
 };
 
 using Names = std::vector<std::string>;

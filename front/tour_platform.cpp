@@ -1,8 +1,8 @@
-#include "desktop/tour_platform.h"
+#include "front/tour_platform.h"
 
 #include <utility>
 
-namespace quintara::desktop {
+namespace quintara {
 namespace {
 
 bool IsWrittenInAGame(const std::filesystem::path& path) {
@@ -45,4 +45,4 @@ void TourPlatform::OpenPopupMenu(Form&, Menu&, double, double, std::function<voi
   reply(std::exchange(chosen_, nullptr));
 }
 
-}  // namespace quintara::desktop
+}  // namespace quintara

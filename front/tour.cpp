@@ -1,8 +1,8 @@
-#include "desktop/tour.h"
+#include "front/tour.h"
 
 #include "scene/scene.h"
 
-namespace quintara::desktop {
+namespace quintara {
 namespace {
 
 // Where the radar finds a target, as the chance that decides it: 24.2 km after a long run, 22.0 km after a
@@ -12,8 +12,8 @@ constexpr double nearTarget = 0.06325;
 
 }  // namespace
 
-void Tour::Play() {
-  Start();
+std::string Tour::Play() {
+  Run([this] { program_.Start(); });
   Picture("start", program_.quintara());
   PlayFirstTarget();
   PlaySecondAndThirdTarget();
@@ -21,6 +21,7 @@ void Tour::Play() {
   ReadDocuments();
   ShowDemonstrations();
   Click(program_.quintara().cancelButton);
+  return fault_;
 }
 
 void Tour::PlayFirstTarget() {
@@ -171,4 +172,4 @@ void Tour::Choose(Menu& item) {
   Click(program_.quintara().helpButton);
 }
 
-}  // namespace quintara::desktop
+}  // namespace quintara

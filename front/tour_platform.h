@@ -1,16 +1,14 @@
 #pragma once
 
-#include <QtCore/QString>
-
 #include <cstdint>
 #include <map>
 #include <string>
 
-#include "desktop/session_platform.h"
 #include "files/file_system.h"
+#include "front/windows.h"
 #include "scene/quiet_platform.h"
 
-namespace quintara::desktop {
+namespace quintara {
 
 // The files of this machine, of which none is ever changed: what the program writes is kept in memory and
 // read from there. What it writes in a player's game is not read from the disk either.
@@ -30,9 +28,9 @@ class TourDisk final : public FileSystem {
 
 // A world for a game that plays by itself: the windows are real, but nothing waits for a user, nothing
 // sounds, and no two runs differ.
-class TourPlatform final : public SessionPlatform<QuietPlatform> {
+class TourPlatform final : public WindowsPlatform<QuietPlatform> {
  public:
-  explicit TourPlatform(const QString& programFolder) : programFolder_(programFolder.toStdString()) {}
+  explicit TourPlatform(std::string programFolder) : programFolder_(std::move(programFolder)) {}
 
   // What the next popup menu answers.
   void Choose(Menu& item) { chosen_ = &item; }
@@ -51,4 +49,4 @@ class TourPlatform final : public SessionPlatform<QuietPlatform> {
   std::string boxText_;
 };
 
-}  // namespace quintara::desktop
+}  // namespace quintara
