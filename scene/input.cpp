@@ -1,7 +1,9 @@
 #include "scene/input.h"
 
+#include <functional>
 #include <limits>
 #include <string>
+#include <utility>
 
 #include "scene/scene.h"
 #include "text/utf8.h"
@@ -19,13 +21,11 @@ bool CanBeUsed(const Object& object) {
 }
 
 // Runs one piece of the user's input on an object, unless the object can't be reached when its turn comes.
-template <typename Action>
-InputResult Use(Object& object, Action action) {
-  const auto run = [&object, action] {
-    if (CanBeUsed(object)) action();
-  };
+InputResult Use(Object& object, std::function<void()> action) {
   if (!DispatcherOf(object).busy() && !CanBeUsed(object)) return InputResult::NoTarget;
-  DispatcherOf(object).Run(object.form(), run);
+  DispatcherOf(object).Run(object.form(), [&object, action = std::move(action)] {
+    if (CanBeUsed(object)) action();
+  });
   return InputResult::Done;
 }
 

@@ -207,6 +207,8 @@ TEST_F(FormTest, APopupRunsTheChosenItem) {
   });
   EXPECT_EQ(clicks, 1) << "the second one was dismissed";
   EXPECT_TRUE(form.mnuItem.CanBeChosen());
+  form.mnuItem.Visible = false;
+  EXPECT_FALSE(form.mnuItem.CanBeChosen());
   EXPECT_FALSE(form.mnuDivider.CanBeChosen() || form.mnuOff.CanBeChosen());
 }
 
