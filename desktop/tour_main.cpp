@@ -54,7 +54,8 @@ void UseScreenInMemory(const QTemporaryDir& folder) {
   if (!folder.isValid()) Fail("there is no place for a temporary file: " + folder.errorString());
   Write(settings, screenSettings);
   qputenv("QT_QPA_PLATFORM", QFile::encodeName("offscreen:configfile=" + settings));
-  for (const char* setting : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_FONT_DPI"})
+  for (const char* setting :
+       {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_FONT_DPI", "QT_QPA_PLATFORMTHEME"})
     qunsetenv(setting);
   // What it can't do with windows, and where it keeps what it never uses, is of no interest here.
   qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) {

@@ -7,6 +7,7 @@ string(RANDOM LENGTH 8 number)
 set(folder ${BUILD}/Testing/install-${number})
 set(ENV{DESTDIR})
 set(ENV{QT_QPA_PLATFORM} offscreen)
+set(ENV{QT_QPA_PLATFORMTHEME})
 set(ENV{XDG_DATA_HOME} ${folder}/player)
 
 # Each installation leaves a list of its files in the build folder. Whoever has installed the game may need theirs.
