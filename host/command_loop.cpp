@@ -1,7 +1,7 @@
 #include "host/command_loop.h"
 
-#include <exception>
 #include <istream>
+#include <optional>
 #include <ostream>
 
 namespace quintara::host {
@@ -26,10 +26,12 @@ bool IsSkipped(const std::string& line) {
   return blank || line.starts_with('#');
 }
 
-void RequirePhase(const Host& host, When when) {
-  if (host.scene.ended() && when != When::Always) throw Refusal("the program has ended");
-  if (host.started && when == When::BeforeStart) throw Refusal("the program has started already");
-  if (!host.started && when == When::WhileRunning) throw Refusal("the program has not started");
+// Nothing in the part of the run in which the command is accepted.
+std::optional<Refusal> RefusedNow(const Host& host, When when) {
+  if (host.scene.ended() && when != When::Always) return Refusal{"the program has ended"};
+  if (host.started && when == When::BeforeStart) return Refusal{"the program has started already"};
+  if (!host.started && when == When::WhileRunning) return Refusal{"the program has not started"};
+  return std::nullopt;
 }
 
 }  // namespace
@@ -42,26 +44,31 @@ void CommandLoop::Run(std::istream& in) {
 }
 
 void CommandLoop::Answer(const std::string& line) {
-  try {
-    const InputResult result = CarryOut(line);
-    host_.out << (result == InputResult::Done ? "ok" : "ignored");
-  } catch (const std::exception& why) {
-    host_.out << "error: " << why.what();
+  const Outcome outcome = CarryOut(line);
+  if (const Refusal* refusal = outcome.refusal()) {
+    // A NUL that stood in a name on the line ends the text.
+    host_.out << "error: " << refusal->why.c_str();
+  } else {
+    host_.out << (*outcome == InputResult::Done ? "ok" : "ignored");
   }
   host_.out << '\n' << std::flush;
 }
 
-InputResult CommandLoop::CarryOut(const std::string& line) {
-  if (line.size() > longestLine) throw Refusal("the line is too long");
-  const std::vector<Word> words = SplitWords(line);
-  const Command* command = FindCommand(PlainWord(words.front()));
-  if (command == nullptr) throw Refusal("there is no command " + Quoted(words.front().text));
-  RequirePhase(host_, command->when);
-  const Arguments arguments(words.begin() + 1, words.end());
-  if (arguments.size() < command->leastArguments || arguments.size() > command->mostArguments) {
-    throw Refusal("wrong number of words");
+Outcome CommandLoop::CarryOut(const std::string& line) {
+  if (line.size() > longestLine) return Refusal{"the line is too long"};
+  const auto words = SplitWords(line);
+  if (!words) return *words.refusal();
+  const auto name = PlainWord(words->front());
+  if (!name) return *name.refusal();
+  const Command* command = FindCommand(*name);
+  if (command == nullptr) return Refusal{"there is no command " + Quoted(*name)};
+  if (const auto refusal = RefusedNow(host_, command->when)) return *refusal;
+  const Arguments arguments(words->begin() + 1, words->end());
+  const Action& action = command->action;
+  if (arguments.size() < action.fewestWords || arguments.size() > action.mostWords) {
+    return Refusal{"wrong number of words"};
   }
-  return command->run(host_, arguments);
+  return action.run(host_, arguments);
 }
 
 }  // namespace quintara::host

@@ -24,7 +24,7 @@ class CommandLoop {
 
  private:
   void Answer(const std::string& line);
-  InputResult CarryOut(const std::string& line);
+  Outcome CarryOut(const std::string& line);
 
   Host host_;
 };

@@ -26,14 +26,23 @@ struct Host {
 // The part of a run in which a command is accepted.
 enum class When { BeforeStart, BeforeEnd, WhileRunning, Always };
 
+// The words behind a command's name.
 using Arguments = std::vector<Word>;
+
+// How a command ended. One that is refused has neither changed nor printed anything.
+using Outcome = Result<InputResult>;
+
+// What a command does with its words.
+struct Action {
+  std::size_t fewestWords, mostWords;
+  // Carries the command out and prints its own lines. There are as many words as it takes.
+  Outcome (*run)(Host& host, const Arguments& arguments);
+};
 
 struct Command {
   std::string_view name;
-  std::size_t leastArguments, mostArguments;
   When when;
-  // Carries the command out and prints its own lines. Throws a Refusal before anything has changed.
-  InputResult (*run)(Host& host, const Arguments& arguments);
+  Action action;
 };
 
 // Null for a name that no command has.

@@ -26,6 +26,7 @@ int RunHost(int argumentCount, char** arguments) {
     std::cerr << "usage: quintara-host [DATA_FOLDER]\n";
     return wrongCall;
   }
+  // A caller may leave out even the name of the executable.
   const fs::path folder =
       argumentCount == 2 ? fs::path(arguments[1]) : DataFolderBeside(argumentCount == 1 ? arguments[0] : "");
   std::error_code error;

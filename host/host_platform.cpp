@@ -38,10 +38,10 @@ Menu* ItemToChoose(const Menu& menu, const std::string& name) {
   return nullptr;
 }
 
-template <typename Answer>
-Answer TakeAnswer(std::deque<Answer>& answers, Answer whenEmpty) {
+template <typename Value>
+Value TakeFirst(std::deque<Value>& answers, Value whenEmpty) {
   if (answers.empty()) return whenEmpty;
-  Answer answer = answers.front();
+  Value answer = answers.front();
   answers.pop_front();
   return answer;
 }
@@ -67,7 +67,7 @@ void HostPlatform::Beep() {
 }
 
 void HostPlatform::ShowMessageBox(const MessageBox& box, std::function<void(Answer)> reply) {
-  const std::int32_t result = TakeAnswer(boxAnswers_, DefaultAnswer(box));
+  const std::int32_t result = TakeFirst(boxAnswers_, DefaultAnswer(box));
   out_ << "! box " << Quoted(box.text) << ' ' << Integer32::Write(StyleOf(box)) << ' ' << Quoted(box.title)
        << " -> " << Integer32::Write(result) << '\n';
   reply(static_cast<Answer>(result));
@@ -75,7 +75,7 @@ void HostPlatform::ShowMessageBox(const MessageBox& box, std::function<void(Answ
 
 void HostPlatform::OpenPopupMenu(Form& form, Menu& menu, double x, double y,
                                  std::function<void(Menu*)> reply) {
-  Menu* chosen = ItemToChoose(menu, TakeAnswer(menuAnswers_, std::string("-")));
+  Menu* chosen = ItemToChoose(menu, TakeFirst(menuAnswers_, std::string("-")));
   // The program's own numbers: it opens menus in the scale of its form.
   const double across = x / form.scale().unitAcross;
   const double down = y / form.scale().unitDown;

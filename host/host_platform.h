@@ -18,9 +18,9 @@ class HostPlatform : public Platform {
   // `folder` is the program's folder; `out` must outlive the platform.
   HostPlatform(const std::filesystem::path& folder, std::ostream& out);
 
-  // The number that the next message box without an answer yet returns.
+  // The number that answers the next message box that has no answer yet.
   void QueueBoxAnswer(std::int32_t result) { boxAnswers_.push_back(result); }
-  // The name of the item that is chosen in the next popup menu without an answer yet. A menu in which the
+  // The name of the item that is chosen in the next popup menu that has no answer yet. A menu in which the
   // user couldn't choose it is dismissed.
   void QueueMenuAnswer(const std::string& item) { menuAnswers_.push_back(item); }
 

@@ -15,26 +15,30 @@ bool HasItem(const Menu& menu, std::string_view name) {
 
 }  // namespace
 
-Form& FindForm(const Scene& scene, std::string_view name) {
+Result<Form&> FindForm(const Scene& scene, std::string_view name) {
   Form* form = scene.FindForm(name);
-  if (form == nullptr) throw Refusal("there is no form " + Quoted(name));
+  if (form == nullptr) return Refusal{"there is no form " + Quoted(name)};
   return *form;
 }
 
-Object& FindObject(const Scene& scene, std::string_view path) {
+Result<Object&> FindObject(const Scene& scene, std::string_view path) {
   const std::size_t dot = path.find('.');
-  Form& form = FindForm(scene, path.substr(0, dot));
-  if (dot == std::string_view::npos) return form;
-  const auto [name, index] = SplitIndex(path.substr(dot + 1));
-  Object* object = form.Find(name, index.value_or(Object::notInArray));
-  if (object == nullptr) throw Refusal("there is no object " + Quoted(path));
+  const auto form = FindForm(scene, path.substr(0, dot));
+  if (!form) return *form.refusal();
+  if (dot == std::string_view::npos) return *form;
+  const auto called = SplitIndex(path.substr(dot + 1));
+  if (!called) return *called.refusal();
+  Object* object = form->Find(called->name, called->index.value_or(Object::notInArray));
+  if (object == nullptr) return Refusal{"there is no object " + Quoted(path)};
   return *object;
 }
 
-PropertyPath FindProperty(const Scene& scene, std::string_view path) {
+Result<PropertyPath> FindProperty(const Scene& scene, std::string_view path) {
   const std::size_t dot = path.rfind('.');
-  if (dot == std::string_view::npos) throw Refusal("a property is expected, not " + Quoted(path));
-  return {FindObject(scene, path.substr(0, dot)), path.substr(dot + 1)};
+  if (dot == std::string_view::npos) return Refusal{"a property is expected, not " + Quoted(path)};
+  const auto object = FindObject(scene, path.substr(0, dot));
+  if (!object) return *object.refusal();
+  return PropertyPath{*object, path.substr(dot + 1)};
 }
 
 std::string PathOf(const Object& object) {

@@ -11,7 +11,7 @@ namespace {
 // How a property is read and written.
 struct Access {
   std::string (*read)(Object&);
-  Assignment (*prepare)(Object&, const Word&) = nullptr;  // null: it can only be read
+  Result<Assignment> (*prepare)(Object&, const Word&) = nullptr;  // null: it can only be read
 };
 
 // The part of an object that has a property. That of a form or picture box may be the Container in it.
@@ -29,16 +29,24 @@ std::string Read(Object& object) {
   return Value::Write(OwnerOf(object, member).*member);
 }
 
+// The statement that assigns what was read.
+template <typename Property, typename Value>
+Result<Assignment> Assigning(Property& property, const Result<Value>& read) {
+  if (!read) return *read.refusal();
+  return Assignment([&property, value = *read] { property = value; });
+}
+
 template <typename Value, auto member>
-Assignment Prepare(Object& object, const Word& word) {
-  auto& property = OwnerOf(object, member).*member;
-  return [&property, value = Value::Read(word)] { property = value; };
+Result<Assignment> Prepare(Object& object, const Word& word) {
+  return Assigning(OwnerOf(object, member).*member, Value::Read(word));
 }
 
 template <typename Value, auto member, auto allows>
-Assignment PrepareWhere(Object& object, const Word& word) {
-  if (!allows(OwnerOf(object, member), Value::Read(word))) throw Refusal("the property takes no such value");
-  return Prepare<Value, member>(object, word);
+Result<Assignment> PrepareWhere(Object& object, const Word& word) {
+  auto& owner = OwnerOf(object, member);
+  const auto value = Value::Read(word);
+  if (value && !allows(owner, *value)) return Refusal{"the property takes no such value"};
+  return Assigning(owner.*member, value);
 }
 
 template <typename Value, auto member>
@@ -49,13 +57,13 @@ constexpr Access plainWhere{Read<Value, member>, PrepareWhere<Value, member, all
 template <typename Value, auto member>
 constexpr Access readOnly{Read<Value, member>};
 
-template <typename Bar, typename Value>
-Assignment PrepareBarValue(Object& object, const Word& word) {
+template <typename Bar>
+Result<Assignment> PrepareBarValue(Object& object, const Word& word) {
   Bar& bar = static_cast<Bar&>(object);
-  return [&bar, value = ReadBarValue(bar, word)] { bar.Value = value; };
+  return Assigning(bar.Value, ReadBarValue(bar, word));
 }
 template <typename Bar, typename Value>
-constexpr Access barValue{Read<Value, &Bar::Value>, PrepareBarValue<Bar, Value>};
+constexpr Access barValue{Read<Value, &Bar::Value>, PrepareBarValue<Bar>};
 
 bool IsDotWidth(const Container&, std::int16_t pixels) {
   return pixels >= 1;
@@ -79,16 +87,17 @@ std::string ReadPicture(Object& object) {
 }
 
 // The program empties a picture box, or loads a bitmap from its folder.
-Assignment PreparePicture(Object& object, const Word& word) {
+Result<Assignment> PreparePicture(Object& object, const Word& word) {
   auto& box = static_cast<PictureBox&>(object);
-  const std::string name = Text::Read(word);
-  if (name.empty()) return [&box] { box.Picture = Picture{}; };
+  const auto name = Text::Read(word);
+  if (!name) return *name.refusal();
+  if (name->empty()) return Assignment([&box] { box.Picture = Picture{}; });
   const Scene& scene = object.form().scene();
-  const std::string path = scene.AppPath() + "\\" + name;
-  const bool leavesFolder = name.find_first_of("/:") != std::string::npos || name.starts_with('\\') ||
-                            name.find("..") != std::string::npos;
-  if (leavesFolder || !scene.files().IsBitmap(path)) throw Refusal("there is no such bitmap");
-  return [&box, &scene, path] { scene.LoadPictureInto(box, path); };
+  const std::string path = scene.AppPath() + "\\" + *name;
+  const bool leavesFolder = name->find_first_of("/:") != std::string::npos || name->starts_with('\\') ||
+                            name->find("..") != std::string::npos;
+  if (leavesFolder || !scene.files().IsBitmap(path)) return Refusal{"there is no such bitmap"};
+  return Assignment([&box, &scene, path] { scene.LoadPictureInto(box, path); });
 }
 
 constexpr Access picture{ReadPicture, PreparePicture};
@@ -270,11 +279,11 @@ Rules RulesOf(const Object& object) {
   return Visit(object, [](const auto& one) { return RulesFor(one); });
 }
 
-const Access& AccessTo(const Object& object, std::string_view name) {
+Result<const Access&> AccessTo(const Object& object, std::string_view name) {
   for (const Rule& rule : RulesOf(object)) {
     if (rule.name == name) return rule.access;
   }
-  throw Refusal("the object has no property " + Quoted(name));
+  return Refusal{"the object has no property " + Quoted(name)};
 }
 
 // The list box of which such a name means an item; null where it means no item.
@@ -282,32 +291,38 @@ const ListBox* ListOfItem(const Object& object, std::string_view name) {
   return name.starts_with("List(") ? As<const ListBox>(object) : nullptr;
 }
 
-std::string ReadListItem(const ListBox& list, std::string_view name) {
-  const IndexedName item = SplitIndex(name);
-  if (!item.index || *item.index >= list.ListCount()) throw Refusal("the list has no such item");
-  return Text::Write(list.List(*item.index));
+Result<std::string> ReadListItem(const ListBox& list, std::string_view name) {
+  const auto item = SplitIndex(name);
+  if (!item) return *item.refusal();
+  if (!item->index || *item->index >= list.ListCount()) return Refusal{"the list has no such item"};
+  return Text::Write(list.List(*item->index));
 }
 
-template <typename Value, typename Bar>
-typename Value::Type WithinBar(const Bar& bar, const Word& word) {
-  const auto value = Value::Read(word);
-  if (value != WithinRange(value, bar.Min, bar.Max)) throw Refusal("the value lies outside Min and Max");
+template <typename Bar, typename Number>
+Result<Number> WithinBar(const Bar& bar, const Result<Number>& value) {
+  if (value && *value != WithinRange(*value, bar.Min, bar.Max)) {
+    return Refusal{"the value lies outside Min and Max"};
+  }
   return value;
 }
 
 }  // namespace
 
-std::string ReadProperty(Object& object, std::string_view name) {
+Result<std::string> ReadProperty(Object& object, std::string_view name) {
   const bool ofAnyForm = object.container() == nullptr && (name == "Loaded" || name == "Visible");
-  if (!object.form().loaded() && !ofAnyForm) throw Refusal("the form is not loaded");
+  if (!object.form().loaded() && !ofAnyForm) return Refusal{"the form is not loaded"};
   if (const ListBox* list = ListOfItem(object, name)) return ReadListItem(*list, name);
-  return AccessTo(object, name).read(object);
+  const auto access = AccessTo(object, name);
+  if (!access) return *access.refusal();
+  return access->read(object);
 }
 
-Assignment PrepareAssignment(Object& object, std::string_view name, const Word& value) {
-  const auto prepare = ListOfItem(object, name) != nullptr ? nullptr : AccessTo(object, name).prepare;
-  if (prepare == nullptr) throw Refusal("the property can only be read");
-  return prepare(object, value);
+Result<Assignment> PrepareAssignment(Object& object, std::string_view name, const Word& value) {
+  const bool isListItem = ListOfItem(object, name) != nullptr;
+  const auto access = AccessTo(object, name);
+  if (!access && !isListItem) return *access.refusal();
+  if (isListItem || access->prepare == nullptr) return Refusal{"the property can only be read"};
+  return access->prepare(object, value);
 }
 
 std::vector<NamedValue> DumpedProperties(Object& object) {
@@ -322,12 +337,12 @@ std::vector<NamedValue> DumpedProperties(Object& object) {
   return values;
 }
 
-std::int16_t ReadBarValue(const ScrollBar& bar, const Word& word) {
-  return WithinBar<Integer16>(bar, word);
+Result<std::int16_t> ReadBarValue(const ScrollBar& bar, const Word& word) {
+  return WithinBar(bar, Integer16::Read(word));
 }
 
-std::int32_t ReadBarValue(const Slider& slider, const Word& word) {
-  return WithinBar<Integer32>(slider, word);
+Result<std::int32_t> ReadBarValue(const Slider& slider, const Word& word) {
+  return WithinBar(slider, Integer32::Read(word));
 }
 
 }  // namespace quintara::host

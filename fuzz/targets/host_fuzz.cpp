@@ -17,11 +17,8 @@ namespace {
 
 // No words for a line that can't be split.
 std::vector<host::Word> WordsOf(const std::string& line) {
-  try {
-    return host::SplitWords(line);
-  } catch (const host::Refusal&) {
-    return {};
-  }
+  const auto words = host::SplitWords(line);
+  return words ? *words : std::vector<host::Word>();
 }
 
 // The host's own world outside, but for the disk and the seed, so that a run depends on its input alone.
@@ -81,12 +78,11 @@ class TalkingHost {
         [&](const ScrollBar&) { return property.name != "Enabled"; }, [](const Slider&) { return true; },
         [&](const Object&) { return property.name == "SelLength" || property.name == "Picture"; });
     if (readOnly) return;
-    try {
-      host::PrepareAssignment(object, property.name, words[0])();
-    } catch (const host::Refusal& refusal) {
-      Require(false, refusal.what(), what);
-    }
-    Require(host::ReadProperty(object, property.name) == property.value, "a value reads back", what);
+    const auto assign = host::PrepareAssignment(object, property.name, words[0]);
+    Require(static_cast<bool>(assign), "a printed value can be set", what);
+    (*assign)();
+    const auto value = host::ReadProperty(object, property.name);
+    Require(value && *value == property.value, "a value reads back", what);
   }
 
   static std::string ClosingLine(const std::string& printed) {
@@ -125,7 +121,7 @@ void Play(std::string_view script) {
     if (words.size() > 1 && words[0].text == "advance") time += std::strtod(words[1].text.c_str(), nullptr);
     if (!(time <= mostTime)) break;
     for (const host::Word& word : words) {
-      const std::vector<host::Word> again = host::SplitWords(host::Quoted(word.text));
+      const std::vector<host::Word> again = WordsOf(host::Quoted(word.text));
       Require(again.size() == 1 && again[0].text == word.text, "a quoted text reads back", line);
     }
     host.Say(line);

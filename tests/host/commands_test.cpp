@@ -64,6 +64,24 @@ TEST_F(CommandsTest, Keys) {
       "key frmMasters.Text1 1114112|key Quintara.cmdHelp 65");
 }
 
+TEST_F(CommandsTest, TheFirstWordThatIsWrongIsTold) {
+  for (const auto& [line, why] : std::initializer_list<std::pair<std::string, std::string>>{
+           {"select Quintara.cmdHelp -1 x", "the object is no rich text box"},
+           {"select Analysis.rtbMath -1 x", "the number is negative"},
+           {"select Analysis.rtbMath 1 x", "a whole number is expected"},
+           {"set Nobody.Left 1", "there is no form \"Nobody\""},
+           {"set Quintara.Label4.Left x", "a number is expected"},
+           {"trough Quintara.cmdHelp up", "min or max is expected"},
+           {"trough Quintara.cmdHelp min", "the object is no scroll bar or slider"},
+           {"scroll Quintara.HScroll1 99", "the value lies outside Min and Max"},
+           {"answer door \"", "a text has no closing quote"},
+           {"answer door x", "box or menu is expected"},
+           {"chance 2 x", "a chance is at least 0 and below 1"},
+           {"dump nobody.x", "there is no form \"nobody.x\""}}) {
+    EXPECT_EQ(Say(line), "error: " + why + "\n") << line;
+  }
+}
+
 TEST_F(CommandsTest, AFaultOfTheProgramEndsTheHostInOrder) {
   form.searchButton.Click.Bind([this] { form.rangeNumbers(40).Visible = true; });
   EXPECT_EXIT(Say("click Quintara.cmdSearch"), testing::ExitedWithCode(3), "");
