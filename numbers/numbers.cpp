@@ -7,6 +7,13 @@
 namespace quintara {
 namespace {
 
+template <typename Number>
+concept ReadByFromChars = requires(const char* text, Number value) {
+  std::from_chars(text, text, value);
+};
+static_assert(ReadByFromChars<double>,
+              "from_chars has to read a double: take libstdc++ 11, libc++ 20 or newer");
+
 // A caption such as "750" or "0.003" is parsed at each ballistic step, so the plain cases take this short
 // way. Up to 15 digits and the power of ten that divides them are exact doubles; their quotient is the
 // correctly rounded value.

@@ -55,7 +55,7 @@ void Form::WriteExtent(double units) {
   const Single count = units;
   const double inner = axis == Axis::Across ? InnerWidth() : InnerHeight();
   // A form squeezed to nothing has no unit that could be counted.
-  if (!(count > 0) || !std::isfinite(count) || !(inner > 0)) return;
+  if (!(count > 0) || !std::isfinite(count.Stored()) || !(inner > 0)) return;
   Scale next = scale();
   next.mode = Scale::user;
   (axis == Axis::Across ? next.unitAcross : next.unitDown) = inner / count;

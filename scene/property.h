@@ -89,7 +89,7 @@ class Property final : public StoredProperty {
     return property.value_ == text;
   }
   friend auto operator<=>(const Property& property, std::string_view text) requires isText {
-    return std::string_view(property.value_) <=> text;
+    return property.value_.compare(text) <=> 0;
   }
 
  private:
