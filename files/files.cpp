@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <chrono>
+
 #include <cstdlib>
+#include "text/utf8.h"
 
 #include "files/little_endian.h"
 
@@ -10,7 +12,14 @@ namespace quintara {
 namespace {
 
 std::filesystem::path PathOfText(std::string_view utf8) {
+#ifdef _WIN32
+  // Names have UTF-16 there, and a path made of what is no UTF-8 would throw.
+  std::u32string characters;
+  for (std::size_t position = 0; position < utf8.size();) characters += ReadUtf8(utf8, position);
+  return std::filesystem::path(characters);
+#else
   return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
+#endif
 }
 
 constexpr int mostNames = 10'000;

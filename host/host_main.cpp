@@ -11,27 +11,28 @@ namespace {
 
 namespace fs = std::filesystem;
 
-fs::path DataFolderBeside(const char* executable) {
+fs::path DataFolderBeside(const fs::path& executable) {
   // Where the system tells it, the true place is better: the executable may have been found by a bare name.
   std::error_code error;
   const fs::path self = fs::read_symlink("/proc/self/exe", error);
-  return (error ? fs::path(executable) : self).parent_path() / "data";
+  return (error ? executable : self).parent_path() / "data";
 }
 
 }  // namespace
 
-int RunHost(int argumentCount, char** arguments) {
+int RunHost(const std::vector<fs::path>& arguments) {
   constexpr int wrongCall = 2;
-  if (argumentCount > 2) {
+  if (arguments.size() > 2) {
     std::cerr << "usage: quintara-host [DATA_FOLDER]\n";
     return wrongCall;
   }
   // A caller may leave out even the name of the executable.
   const fs::path folder =
-      argumentCount == 2 ? fs::path(arguments[1]) : DataFolderBeside(argumentCount == 1 ? arguments[0] : "");
+      arguments.size() == 2 ? arguments[1] : DataFolderBeside(arguments.empty() ? fs::path() : arguments[0]);
   std::error_code error;
   if (!fs::is_directory(folder, error)) {
-    std::cerr << "quintara-host: there is no folder " << folder.string() << '\n';
+    const std::u8string name = folder.u8string();
+    std::cerr << "quintara-host: there is no folder " << std::string(name.begin(), name.end()) << '\n';
     return wrongCall;
   }
   std::ios::sync_with_stdio(false);
