@@ -19,7 +19,7 @@ fs::path PlayersFiles::Own(const fs::path& path) const {
   if (path.parent_path() != programFolder_) return path;
   const fs::path file = path.filename();
   // "Masters.txt.new0" belongs to Masters.txt: a rename is one step only within one folder.
-  for (const fs::path name : {"Masters.txt", "extra.txt"}) {
+  for (const fs::path name : {"Masters.txt", "extra.txt", "settings.txt"}) {
     if (file.native().starts_with(name.native())) return ownFolder_ / file;
   }
   return path;
