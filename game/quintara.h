@@ -34,6 +34,9 @@ class QuintaraForm : public QuintaraControls {
   // What the documents' windows use of this form.
   MainForm ForDocuments() { return {*this, score, valleyName, peakName, shared}; }
 
+  // Range of the target that was locked on last, in km; 0 before the first.
+  Single targetKm() const { return targetKm_; }
+
   SharedSettings shared;
 
   // The shell's, the preview's and, with its place in twips, that of the radar's target: each of them sets
