@@ -80,7 +80,7 @@ void FormWindow::FollowFrame() {
   const bool moves = place_.Follow(desk_, screens, isVisible());
   seen_ = form_.changes();
   setFixedSize(ToQSize(place_.size()));
-  surface_.resize(ToQSize(place_.size()));
+  surface_.resize(ToQSize(place_.surfaceSize()));
   if (moves) move(ToQPoint(place_.place()));
 }
 

@@ -39,8 +39,11 @@ void WindowPlace::MovedTo(const PixelPoint& place) {
 }
 
 PixelSize WindowPlace::size() const {
-  const PixelSize inner = Inner();
-  return {zoom_(inner.width), zoom_(inner.height)};
+  return {zoom_(Inner().width), zoom_(Inner().height)};
+}
+
+PixelSize WindowPlace::surfaceSize() const {
+  return {zoom_(FormSize().width), zoom_(FormSize().height)};
 }
 
 PixelPoint WindowPlace::Wanted() const {
@@ -48,6 +51,11 @@ PixelPoint WindowPlace::Wanted() const {
 }
 
 PixelSize WindowPlace::Inner() const {
+  const PixelSize form = FormSize();
+  return {form.width, form.height + footer_};
+}
+
+PixelSize WindowPlace::FormSize() const {
   return {ToPixels(form_.InnerWidth()), ToPixels(form_.InnerHeight())};
 }
 

@@ -29,14 +29,20 @@ class WindowPlace {
   // The largest zoom up to the desk's at which the window fits on its screen.
   const Zoom& zoom() const { return zoom_; }
   const PixelPoint& place() const { return placed_; }
-  PixelSize size() const;  // of the inner area
+  PixelSize size() const;         // of the inner area, with what stands below the form
+  PixelSize surfaceSize() const;  // of the form itself
+
+  // Keeps room for something below the form, so many pixels high at a zoom of 1; Follow makes the window so.
+  void SetFooter(int height) { footer_ = height; }
 
  private:
   void FollowDesk(const Zoom& desk);
   PixelPoint Wanted() const;
   PixelSize Inner() const;
+  PixelSize FormSize() const;
 
   Form& form_;
+  int footer_ = 0;
   Zoom desk_;
   Zoom zoom_;
   PixelPoint wanted_;  // by the form

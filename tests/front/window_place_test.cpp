@@ -42,5 +42,14 @@ TEST_F(WindowPlaceTest, WithTheDeskAWindowGrowsWhereItStandsAsFarAsItsScreenHasR
   EXPECT_EQ(window.place(), (PixelPoint{639 - 480 - 8, 0})) << "it is seen whole";
 }
 
+TEST_F(WindowPlaceTest, WhatStandsBelowTheFormTakesNoRoomFromIt) {
+  window.SetFooter(24);
+  window.Follow(Zoom(2), {wide, wide}, false);
+  EXPECT_EQ(window.surfaceSize(), (PixelSize{1200, 800}));
+  EXPECT_EQ(window.size(), (PixelSize{1200, 848}));
+  window.Follow(Zoom(2), {narrow, wide}, true);
+  EXPECT_EQ(window.zoom(), Zoom(320.0 / 424)) << "both are seen whole";
+}
+
 }  // namespace
 }  // namespace quintara
