@@ -109,6 +109,24 @@ void Session::SetZoom(const Zoom& zoom) {
   ShowChanges();
 }
 
+void Session::Choose(const Settings& settings) {
+  settings_ = settings;
+  if (keepsSettings_) SaveSettings(scene_, settings_);
+  SetZoom(Zoom(settings_.zoom.value_or(1)));
+}
+
+void Session::KeepSettings() {
+  const ReadSettings read = LoadSettings(scene_);
+  keepsSettings_ = true;
+  if (read.damaged) {
+    scene_.TellFault(
+        "Some of what you have chosen of the windows could not be read in the file settings.txt. What could "
+        "be "
+        "read is used; the file is put aside as settings.txt.damaged.");
+  }
+  Choose(read.settings);
+}
+
 bool Session::PointerMoved(const QPoint& screen) {
   return std::exchange(pointer_, screen) != screen;
 }

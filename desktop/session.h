@@ -13,6 +13,7 @@
 #include "desktop/pictures.h"
 #include "front/assistance.h"
 #include "front/pacing.h"
+#include "front/settings.h"
 #include "front/windows.h"
 #include "front/zoom.h"
 
@@ -57,6 +58,14 @@ class Session final : public Windows {
   const Zoom& zoom() const { return zoom_; }
   void SetZoom(const Zoom& zoom);
 
+  // What the player has chosen of the windows. Without KeepSettings it is as at a first start.
+  const Settings& settings() const { return settings_; }
+  // Takes a choice over, shows what came of it, and keeps it for the next start where KeepSettings was
+  // called.
+  void Choose(const Settings& settings);
+  // Begins with what was chosen at an earlier start and keeps what is chosen from now on. Damage is told.
+  void KeepSettings();
+
   // Null where the form has no window.
   FormWindow* WindowOf(const Form& form) const;
   // The window that the user works in; null where it is none of a form's. Qt may name one that was closed a
@@ -74,6 +83,8 @@ class Session final : public Windows {
 
   Scene& scene_;
   AssistanceTable assistance_;
+  Settings settings_;
+  bool keepsSettings_ = false;
   Zoom zoom_;
   Pictures pictures_;
   QElapsedTimer realTime_;
