@@ -16,6 +16,7 @@
 #include "desktop/session.h"
 #include "desktop/text_widget.h"
 #include "desktop/units.h"
+#include "front/placement.h"
 #include "scene/visit.h"
 
 namespace quintara::desktop {
@@ -26,13 +27,17 @@ void Control::Follow(const Zoom& zoom) {
   const bool zoomed = std::exchange(zoom_, zoom) != zoom;
   if (!std::exchange(fresh_, false) && !zoomed && seen_ == box_.changes()) return;
   seen_ = box_.changes();
-  const QRect place = ToQRect(zoom(ToPixels(box_.Surface())));
+  PixelRectangle place = ToPixels(box_.Surface());
+  if (box_.AsContainer() != nullptr) {
+    const Container& around = *box_.container();
+    place = ReachingEdges(place, {ToPixels(around.InnerWidth()), ToPixels(around.InnerHeight())});
+  }
   if (!box_.IsEnabled()) DropFocus();
   // A scroll area lays its bars out anew only where they tell it of their new breadth.
   if (zoomed) {
     for (QScrollBar* bar : widget_.findChildren<QScrollBar*>()) bar->updateGeometry();
   }
-  widget_.setGeometry(place);
+  widget_.setGeometry(ToQRect(zoom(place)));
   widget_.setEnabled(box_.IsEnabled());
   ShowLooks();
   widget_.show();

@@ -16,14 +16,26 @@ QRect PlaceOf(const Dot& dot) {
   return {ToPixels(dot.leftTwips) - width / 2, ToPixels(dot.topTwips) - width / 2, width, width};
 }
 
-void PaintDot(QPainter& painter, const Dot& dot, const QRect& place) {
+constexpr int rim = 1;  // pixels around a dot
+
+void PaintSpot(QPainter& painter, const QRect& place, const QColor& colour) {
   constexpr int widestSquare = 2;
   if (place.width() <= widestSquare) {
-    painter.fillRect(place, ToQColor(dot.colour));
+    painter.fillRect(place, colour);
   } else {
-    painter.setBrush(ToQColor(dot.colour));
+    painter.setBrush(colour);
     painter.drawEllipse(place);
   }
+}
+
+// A light rim lets a dot be seen on grass as well as on snow. It goes below all dots, so that neighbours
+// don't cover one another.
+void PaintDot(QPainter& painter, const Dot& dot, const QRect& place) {
+  const QColor light(0xFF, 0xFF, 0xFF, 0xC0);
+  PaintSpot(painter, place, ToQColor(dot.colour));
+  painter.setCompositionMode(QPainter::CompositionMode_DestinationOver);
+  PaintSpot(painter, place.adjusted(-rim, -rim, rim, rim), light);
+  painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
 }
 
 }  // namespace
@@ -55,7 +67,7 @@ QRect DrawingLayer::Follow(const Container& container, const SurfaceChanges& cha
   for (; next < dots.size(); ++next) {
     const QRect place = PlaceOf(dots[next]);
     PaintDot(painter, dots[next], place);
-    added |= place;
+    added |= place.adjusted(-rim, -rim, rim, rim);
   }
   marked_ |= added;
   return changed | ToQRect(zoom.Around(FromQt(added)));

@@ -66,7 +66,7 @@ void Surface::FollowSurface(const Zoom& zoom) {
   const SurfaceChanges changes = watch_.Look();
   FollowPainted(changes);
   for (const Child& child : children_) child.control->Follow(zoom_);
-  update(layer_.Follow(container_, changes, size(), zoom_, pixelRatio_));
+  FollowMarks(changes);
 }
 
 void Surface::FollowBackground() {
@@ -78,6 +78,23 @@ void Surface::FollowBackground() {
   shownPicture_ = picture;
   shownColour_ = container_.BackColor;
   update();
+}
+
+void Surface::FollowMarks(const SurfaceChanges& changes) {
+  const QRect changed = layer_.Follow(container_, changes, size(), zoom_, pixelRatio_);
+  update(changed);
+  if (!changed.isEmpty()) {
+    for (const Child& child : children_)
+      child.control->widget().update(changed.translated(-child.control->widget().pos()));
+  }
+  const bool hasMarks = !container_.dots().empty();
+  if (std::exchange(hadMarks_, hasMarks) != hasMarks) update();
+}
+
+// A box that has no marks of its own is a picture before which those of the surface below it are seen, too:
+// the backdrop would hide the top of a flight. In the mountain's box the game repeats them itself.
+const Surface* Surface::SurfaceShowingThrough() const {
+  return container_.dots().empty() ? dynamic_cast<const Surface*>(parentWidget()) : nullptr;
 }
 
 // Only graphical objects come and go with their arrays; what has a surface of its own is there from the
@@ -122,12 +139,30 @@ void Surface::paintEvent(QPaintEvent* event) {
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
   painter.fillRect(event->rect(), ToQColor(container_.BackColor));
   painter.drawPixmap(0, 0, picture_);
-  layer_.Paint(painter);
-  painter.scale(zoom_.factor(), zoom_.factor());
+  bool marked = false;
   for (const Object* object : BackToFront(container_)) {
-    if (!object->IsGraphical() || !object->IsVisible()) continue;
-    if (event->region().intersects(ToQRect(zoom_.Around(FromQt(PaintedArea(*object, session_.pictures()))))))
+    if (!object->IsGraphical()) continue;
+    // A flight is to be seen before mountain and ground, but behind the shell or ball that leaves it.
+    if (!marked && As<const Shape>(*object) != nullptr) {
+      PaintMarks(painter);
+      marked = true;
+    }
+    if (!object->IsVisible()) continue;
+    if (event->region().intersects(
+            ToQRect(zoom_.Around(FromQt(PaintedArea(*object, session_.pictures())))))) {
+      painter.setTransform(QTransform::fromScale(zoom_.factor(), zoom_.factor()));
       PaintObject(painter, *object, session_.pictures());
+    }
+  }
+  if (!marked) PaintMarks(painter);
+}
+
+void Surface::PaintMarks(QPainter& painter) const {
+  painter.resetTransform();
+  layer_.Paint(painter);
+  if (const Surface* below = SurfaceShowingThrough()) {
+    painter.translate(-pos());
+    below->layer_.Paint(painter);
   }
 }
 

@@ -54,6 +54,9 @@ class Surface : public QWidget {
   void MakeChildren();
   void FollowPainted(const SurfaceChanges& changes);
   Painted StateOf(const Object& object) const;
+  void FollowMarks(const SurfaceChanges& changes);
+  const Surface* SurfaceShowingThrough() const;
+  void PaintMarks(QPainter& painter) const;
   void Repaint(const QRect& area) { update(ToQRect(zoom_.Around(FromQt(area)))); }
   Object* Under(const QPoint& place) const;
 
@@ -62,6 +65,7 @@ class Surface : public QWidget {
   Zoom zoom_;
   qreal pixelRatio_ = 1;  // pixels of the screen to each of the window
   DrawingLayer layer_;
+  bool hadMarks_ = false;
   QPixmap picture_;
   std::optional<Picture> shownPicture_;
   std::optional<Colour> shownColour_;

@@ -38,10 +38,23 @@ class Breaker {
     if (!Fits(EndOfWord(text_, EndOfBlanks(text_, start_)))) start_ = EndOfBlanks(text_, start_);
     std::size_t end = EndOfNext(start_);
     while (end < text_.size() && Fits(EndOfWord(text_, EndOfBlanks(text_, end)))) end = EndOfNext(end);
+    end = EndAtMeantBreak(end);
     const std::string_view line = text_.substr(start_, end - start_);
     while (end < text_.size() && text_[end] == ' ' && Fits(end + 1)) ++end;
     start_ = end;
     return line;
+  }
+
+  // Captions were written for letters of certain widths: a run of blanks far to the right stands for a break.
+  // Where other letters leave room for a word behind it, the line ends at the run all the same.
+  std::size_t EndAtMeantBreak(std::size_t end) const {
+    constexpr std::string_view run = "   ";
+    constexpr double farRight = 0.6;  // of the width
+    const std::size_t blanks = text_.substr(0, end).rfind(run);
+    if (blanks == std::string_view::npos || blanks < start_ || EndOfBlanks(text_, blanks) >= end) return end;
+    const std::size_t wordEnd = text_.find_last_not_of(' ', blanks) + 1;
+    const bool isFarRight = measure_(text_.substr(start_, wordEnd - start_)) > farRight * width_;
+    return wordEnd > start_ && isFarRight ? wordEnd : end;
   }
 
   std::string_view text_;

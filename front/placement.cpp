@@ -24,6 +24,15 @@ PixelPoint WhollySeen(const PixelPoint& place, const PixelSize& size, const Pixe
           Between(screen.top, place.y, screen.bottom() - 1 - size.height)};
 }
 
+PixelRectangle ReachingEdges(const PixelRectangle& place, const PixelSize& surface) {
+  constexpr int thinStrip = 2;
+  const auto reaching = [](int length, int gap) {
+    return gap > 0 && gap <= thinStrip ? length + gap : length;
+  };
+  return {place.left, place.top, reaching(place.width, surface.width - place.right()),
+          reaching(place.height, surface.height - place.bottom())};
+}
+
 Zoom FittingZoom(const Zoom& wanted, const PixelSize& inner, const PixelRectangle& screen) {
   const double across = static_cast<double>(screen.width - windowFrame.width) / std::max(inner.width, 1);
   const double down = static_cast<double>(screen.height - windowFrame.height) / std::max(inner.height, 1);

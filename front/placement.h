@@ -16,6 +16,10 @@ PixelPoint WithinReach(const PixelPoint& place, int width, const PixelRectangle&
 // The nearest place at which a window of an outer size can be seen whole.
 PixelPoint WhollySeen(const PixelPoint& place, const PixelSize& size, const PixelRectangle& screen);
 
+// The place of a box on a surface of this size. One that ends a pixel or two before the surface's right or
+// lower edge reaches it: whatever lies behind would show as a thin strip.
+PixelRectangle ReachingEdges(const PixelRectangle& place, const PixelSize& surface);
+
 // The wanted zoom, or the largest at which a window of an inner size fits on the screen with its frame.
 Zoom FittingZoom(const Zoom& wanted, const PixelSize& inner, const PixelRectangle& screen);
 

@@ -6,8 +6,8 @@
 
 namespace quintara {
 
-// The files of this machine, but those that are written, the list of masters, extra.txt and the settings, lie in a
-// folder of the player's own, together with what is written beside them while they are saved. Until the
+// The files of this machine, but those that are written, the list of masters, extra.txt and the settings, lie
+// in a folder of the player's own, together with what is written beside them while they are saved. Until the
 // player has one, the file of the program's folder shows through; it is read and never written. With both
 // folders the same, nothing is mapped.
 class PlayersFiles final : public FileSystem {

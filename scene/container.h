@@ -20,7 +20,7 @@ struct Dot {
 };
 
 // A surface that holds children: a form or a picture box. It has a scale, in which its children's places and
-// its drawing are counted, and a drawing layer between its background and its children.
+// its drawing are counted, and a drawing layer, which stands before the pictures among its children.
 class Container {
  public:
   Container(const Container&) = delete;

@@ -30,6 +30,15 @@ TEST(CaptionLinesTest, BreaksWhereTheNextWordDoesNotFitAndKeepsTheBlanks) {
     EXPECT_EQ(CaptionLines(caption, Measure, width), lines) << caption << " in " << width;
 }
 
+TEST(CaptionLinesTest, ARunOfBlanksFarToTheRightBreaksWhateverTheLettersLeaveRoomFor) {
+  const auto lines = [](const char* caption, double width) { return CaptionLines(caption, Measure, width); };
+  using Lines = std::vector<std::string>;
+  EXPECT_EQ(lines("click now      the gun", 140), (Lines{"click now", "the gun"}))
+      << "though \"the\" has room";
+  EXPECT_EQ(lines("to   two   three", 120), (Lines{"to   two", "three"})) << "the last run counts";
+  EXPECT_EQ(lines("to      two nine", 120), (Lines{"to      two", "nine"})) << "columns stay";
+}
+
 TEST(CaptionLinesTest, WhatHasNoRoomIsSetTighterWhereThatHelps) {
   const auto stretchIn = [](double width) { return FitCaption("one two", Measure, 12, width, 12).stretch; };
   EXPECT_EQ(stretchIn(65), 100);

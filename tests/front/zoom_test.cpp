@@ -52,5 +52,11 @@ TEST(PlacementTest, EveryWindowCanBeTakenHoldOf) {
   EXPECT_EQ(WhollySeen({5000, 5000}, {2000, 2000}, screen), (PixelPoint{0, 30})) << "its title, at least";
 }
 
+TEST(PlacementTest, NoThinStripShowsBehindABox) {
+  EXPECT_EQ(ReachingEdges({0, 280, 481, 57}, {477, 339}), (PixelRectangle{0, 280, 481, 59}));
+  EXPECT_EQ(ReachingEdges({0, 280, 481, 56}, {484, 339}), (PixelRectangle{0, 280, 481, 56}))
+      << "a strip of three";
+}
+
 }  // namespace
 }  // namespace quintara
