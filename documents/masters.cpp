@@ -32,14 +32,16 @@ void MastersForm::ReadList() {
   for (const std::string& line : *lines) list.AddItem(line);
 }
 
+std::optional<std::string> MastersForm::Entry() const {
+  const double points = Val(mainForm_.score.Caption);
+  if (!(points >= masterPoints)) return std::nullopt;
+  return nameBox.Text.Get() +
+         (points >= grandMasterPoints ? " - Grand Master of Quintara" : " - Master of Quintara");
+}
+
 void MastersForm::EnterName(std::int16_t key) {
   if (key != enter) return;
-  const double points = Val(mainForm_.score.Caption);
-  if (points >= masterPoints && points < grandMasterPoints) {
-    list.AddItem(nameBox.Text.Get() + " - Master of Quintara");
-  } else if (points >= grandMasterPoints) {
-    list.AddItem(nameBox.Text.Get() + " - Grand Master of Quintara");
-  }
+  if (const auto entry = Entry()) list.AddItem(*entry);
   namePanel.Visible = false;
   SaveList();
   mainForm_.shared.PlayUnlessSoundIsOff(scene(), "gong.wav");

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "documents/main_form.h"
 #include "documents/masters_controls.h"
 #include "scene/message_box.h"
@@ -11,6 +14,9 @@ namespace quintara {
 class MastersForm : public MastersControls {
  public:
   MastersForm(Scene& scene, const MainForm& mainForm);
+
+  // What Enter adds to the list, with the name as it is typed so far; nothing where the score earns no title.
+  std::optional<std::string> Entry() const;
 
  private:
   void ReadList();

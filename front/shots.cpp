@@ -1,5 +1,6 @@
 #include "front/shots.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 
@@ -10,21 +11,6 @@ namespace quintara {
 namespace {
 
 constexpr double groundBurstsFrom = 10000;  // metres from the gun; nearer, only the mountain's foot is struck
-
-// Of the ends, what the table says.
-std::string_view NameOf(Shot::End end) {
-  switch (end) {
-    case Shot::End::InTheAir: return "in the air";
-    case Shot::End::Mountain: return "mountain";
-    case Shot::End::Ground: return "ground";
-    case Shot::End::Buried: return "ground, no burst";
-    case Shot::End::Hit: return "hit";
-    case Shot::End::NextFired: return "lost, next one fired";
-    case Shot::End::LaidAnew: return "lost, gun laid anew";
-    case Shot::End::Left: break;
-  }
-  return "lost, target left";
-}
 
 // With one decimal: 0.4, 23.3.
 std::string Tenths(double number) {
@@ -49,10 +35,6 @@ std::string FromTarget(const Shot& shot) {
 
 constexpr double pictureEnd = 15255 / 0.438;  // metres from the gun that the profile's right edge shows
 
-std::string Whole(double number) {
-  return Format(number, Pattern::Whole);
-}
-
 }  // namespace
 
 std::string SentenceOn(const Shot& shot) {
@@ -75,24 +57,6 @@ std::string SentenceOn(const Shot& shot) {
     case Shot::End::Left: break;
   }
   return NameOf(shot) + " was lost: its target was left while it flew.";
-}
-
-std::string TableOf(const std::vector<Shot>& shots) {
-  std::string table =
-      "shell,target,elevation (deg),velocity (m/s),drag,end,range (m),height (m),miss (m),points\r\n";
-  for (const Shot& shot : shots) {
-    const bool fell = shot.end != Shot::End::InTheAir && !shot.IsLost();
-    // Of a lost one nobody knows where it would have fallen.
-    const std::string fields[] = {std::to_string(shot.shell),     std::to_string(shot.target),
-                                  ToText(shot.elevation),         ToText(shot.velocity),
-                                  ToText(Single(shot.drag)),      "\"" + std::string(NameOf(shot.end)) + "\"",
-                                  fell ? Whole(shot.x) : "",      fell ? Whole(std::fmax(shot.y, 0)) : "",
-                                  fell ? Whole(shot.Miss()) : "", std::to_string(shot.points)};
-    std::string line;
-    for (const std::string& field : fields) line += (line.empty() ? "" : ",") + field;
-    table += line + "\r\n";
-  }
-  return table;
 }
 
 std::vector<PathPoint> MarksOn(const Shot& shot) {
@@ -135,6 +99,11 @@ void ShotWatch::Look() {
     FollowShot(now);
   }
   seen_ = now;
+}
+
+std::span<const Shot> ShotWatch::AtThisTarget() const {
+  const auto isEarlier = [this](const Shot& shot) { return shot.target != target_; };
+  return {std::find_if_not(shots_.begin(), shots_.end(), isEarlier), shots_.end()};
 }
 
 void ShotWatch::BeginShot() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -43,8 +44,6 @@ struct Shot {
 
 // "Shell 4 fell at 23.3 km, 1.6 km beyond the target."
 std::string SentenceOn(const Shot& shot);
-// The shots as a table of comma-separated values, a line each, headed by names and units.
-std::string TableOf(const std::vector<Shot>& shots);
 // The places of the path where a mark stands: each simulated second, or each tenth where a tick is longer
 // than half a second, so that marks can be told apart.
 std::vector<PathPoint> MarksOn(const Shot& shot);
@@ -59,8 +58,10 @@ class ShotWatch {
 
   // The shots of this game, the last one at the back.
   const std::vector<Shot>& shots() const { return shots_; }
-  // Counts the targets of this game; only shots at the present one are drawn.
+  // Counts the targets of this game.
   int target() const { return target_; }
+  // Those of them that were fired at the present target.
+  std::span<const Shot> AtThisTarget() const;
   // Grows whenever shots() has changed.
   unsigned changes() const { return changes_; }
 

@@ -98,11 +98,10 @@ void QuintaraForm::MoveShell() {
   shells(0).Visible = true;
 }
 
-// Where the marker of a shell stands that is at this place, in metres: in the profile, and in the mountain's
-// box, which has its own origin.
 QuintaraForm::Place QuintaraForm::InProfile(Single x, Single y) {
   return {x * 0.438, 9250 - y * 0.55};
 }
+// The same in the mountain's box, which has its own origin.
 QuintaraForm::Place QuintaraForm::InMountain(Single x, Single y) const {
   return {x * 0.438 - 790, mountainHeight_ + 640 - y * 0.55};
 }

@@ -37,6 +37,13 @@ class QuintaraForm : public QuintaraControls {
   // Range of the target that was locked on last, in km; 0 before the first.
   Single targetKm() const { return targetKm_; }
 
+  // Where the marker of a shell stands in the profile that is at this place, in metres from the gun and above
+  // the ground; twips.
+  struct Place {
+    double x, y;
+  };
+  static Place InProfile(Single x, Single y);
+
   SharedSettings shared;
 
   // The shell's, the preview's and, with its place in twips, that of the radar's target: each of them sets
@@ -112,9 +119,6 @@ class QuintaraForm : public QuintaraControls {
   void TurnDragOff();
 
   // firing.cpp
-  struct Place {
-    double x, y;
-  };
   void Fire();
   void StartFlash();
   void CountShell();
@@ -122,7 +126,6 @@ class QuintaraForm : public QuintaraControls {
   void LockGun();
   void FlyShell();
   void MoveShell();
-  static Place InProfile(Single x, Single y);
   Place InMountain(Single x, Single y) const;
   void LightRing();
   void DimRing();

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "front/shot_table.h"
 #include "tests/support/game.h"
 
 namespace quintara {
@@ -108,8 +109,8 @@ TEST_F(ShotsTest, TheTableHasALineForEachShotAndEndsWithItsGame) {
   Click(form.fireButton);
   EXPECT_EQ(TableOf(watch.shots()),
             "shell,target,elevation (deg),velocity (m/s),drag,end,range (m),height (m),miss (m),points\r\n"
-            "1,1,30,250,0,\"ground\",23300,0,1248,0\r\n"
-            "2,1,30,250,0,\"in the air\",,,,0\r\n");
+            "1,1,30,250,0,ground,23300,0,1248,0\r\n"
+            "2,1,30,250,0,in the air,,,,0\r\n");
   FireTo(22000, -1);
   while (!form.resetButton.Enabled) Advance(100);
   Click(form.resetButton);
