@@ -65,7 +65,12 @@ void DesktopPlatform::PlaySound(const DataFile& sound) {
 }
 
 void DesktopPlatform::Beep() {
-  QApplication::beep();
+  if (!isSilent_) QApplication::beep();
+}
+
+void DesktopPlatform::SetVolume(int percent) {
+  isSilent_ = percent == 0;
+  sounds_.SetVolume(percent);
 }
 
 void DesktopPlatform::ShowMessageBox(const MessageBox& box, std::function<void(Answer)> reply) {

@@ -23,6 +23,8 @@ class DesktopPlatform final : public WindowsPlatform<Platform, Session> {
 
   // False: a sound server that does not answer still holds up the sounds.
   bool EndSounds() { return sounds_.End(); }
+  // How loud sounds are from now on, in percent; at 0 there is no beep either.
+  void SetVolume(int percent);
 
   std::string ProgramFolder() override { return programFolder_.toStdString(); }
   FileSystem& Disk() override { return disk_; }
@@ -44,6 +46,7 @@ class DesktopPlatform final : public WindowsPlatform<Platform, Session> {
 
   QString programFolder_;
   PlayersFiles disk_;
+  bool isSilent_ = false;
   SoundPlayer sounds_;
 };
 

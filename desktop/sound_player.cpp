@@ -4,6 +4,7 @@
 #include <QtCore/QBuffer>
 #include <QtCore/QFile>
 #include <QtCore/QThread>
+#include <QtMultimedia/QAudio>
 #include <QtMultimedia/QAudioSink>
 #include <QtMultimedia/QMediaDevices>
 
@@ -48,7 +49,7 @@ void DropMessagesOfSounds(QtMsgType type, const QMessageLogContext& context, con
 // What lives in the thread of the sounds. Used there only.
 class SoundPlayer::Speaker final : public QObject {
  public:
-  void Play(const QString& path) {
+  void Play(const QString& path, int volume) {
     isSoundThread = true;
     sink_.reset();
     const auto wave = ReadWaveFile(path);
@@ -59,8 +60,18 @@ class SoundPlayer::Speaker final : public QObject {
     samples_.setData(wave->samples.data(), static_cast<int>(wave->samples.size()));
     samples_.open(QIODevice::ReadOnly);
     sink_ = std::make_unique<QAudioSink>(device, FormatOf(*wave));
+    SetVolume(volume);
     sink_->start(&samples_);
   }
+
+  void SetVolume(int percent) {
+    if (sink_ == nullptr) return;
+    // Half of it sounds half as loud.
+    sink_->setVolume(QAudio::convertVolume(static_cast<float>(percent) / 100, QAudio::LogarithmicVolumeScale,
+                                           QAudio::LinearVolumeScale));
+  }
+
+  void Stop() { sink_.reset(); }
 
  private:
   QBuffer samples_;
@@ -77,8 +88,22 @@ bool SoundPlayer::End() {
 }
 
 void SoundPlayer::Play(const QString& path) {
+  if (volume_ == 0) return;
   if (thread_ == nullptr) Begin();
-  QMetaObject::invokeMethod(speaker_, [speaker = speaker_, path] { speaker->Play(path); });
+  QMetaObject::invokeMethod(speaker_,
+                            [speaker = speaker_, path, volume = volume_] { speaker->Play(path, volume); });
+}
+
+void SoundPlayer::SetVolume(int percent) {
+  volume_ = percent;
+  if (thread_ == nullptr) return;
+  QMetaObject::invokeMethod(speaker_, [speaker = speaker_, percent] {
+    if (percent == 0) {
+      speaker->Stop();
+    } else {
+      speaker->SetVolume(percent);
+    }
+  });
 }
 
 void SoundPlayer::Begin() {
@@ -95,6 +120,8 @@ bool SoundPlayer::End() {
 }
 
 void SoundPlayer::Play(const QString&) {}
+
+void SoundPlayer::SetVolume(int) {}
 #endif
 
 }  // namespace quintara::desktop

@@ -19,6 +19,9 @@ class SoundPlayer {
   // Starts the file and returns; a sound that still plays is cut off.
   void Play(const QString& path);
 
+  // In percent of the loudest, for sounds to come and the one that still plays. At 0 nothing is played.
+  void SetVolume(int percent);
+
   // Ends the sound and its thread. False: the thread still waits for a sound server that does not answer.
   bool End();
 
@@ -26,6 +29,7 @@ class SoundPlayer {
   class Speaker;
   void Begin();
 
+  [[maybe_unused]] int volume_ = 100;
   // Both from the first sound on.
   [[maybe_unused]] QThread* thread_ = nullptr;
   [[maybe_unused]] Speaker* speaker_ = nullptr;

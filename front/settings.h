@@ -25,6 +25,9 @@ struct Settings {
   bool soundCaptions = false;                             // whether sounds are told in the strip
   std::map<std::string, PixelPoint, std::less<>> places;  // of windows, by the names of their forms
 
+  // How loud sounds are now, in percent.
+  int Loudness() const { return mute ? 0 : volume; }
+
   friend bool operator==(const Settings&, const Settings&) = default;
 };
 
