@@ -8,6 +8,7 @@
 
 #include <utility>
 
+#include "desktop/footer.h"
 #include "desktop/keyboard.h"
 #include "desktop/screens.h"
 #include "desktop/session.h"
@@ -68,8 +69,11 @@ void FormWindow::FollowScreen() {
 
 void FormWindow::Follow() {
   const bool zoomed = std::exchange(desk_, session_.zoom()) != session_.zoom();
-  if (std::exchange(fresh_, false) || zoomed || seen_ != form_.changes()) FollowFrame();
+  const int footer = footer_ != nullptr ? footer_->HeightBelow() : 0;
+  const bool seated = std::exchange(footerHeight_, footer) != footer;
+  if (std::exchange(fresh_, false) || zoomed || seated || seen_ != form_.changes()) FollowFrame();
   surface_.FollowSurface(zoom());
+  if (footer_ != nullptr) footer_->Follow(zoom());
   if (focusSeen_ != form_.focusMoves()) FollowFocus();
   focusMark_.Follow();
 }
@@ -77,10 +81,12 @@ void FormWindow::Follow() {
 void FormWindow::FollowFrame() {
   setWindowTitle(ToQString(form_.Caption.Get()));
   const Screens screens{FromQt(RoomOn(screen())), FromQt(RoomOnAllScreens())};
+  place_.SetFooter(footerHeight_);
   const bool moves = place_.Follow(desk_, screens, isVisible());
   seen_ = form_.changes();
   setFixedSize(ToQSize(place_.size()));
   surface_.resize(ToQSize(place_.surfaceSize()));
+  if (footer_ != nullptr) footer_->setGeometry(0, surface_.height(), width(), height() - surface_.height());
   if (moves) move(ToQPoint(place_.place()));
 }
 

@@ -14,6 +14,7 @@ class Form;
 
 namespace quintara::desktop {
 
+class Footer;
 class Session;
 
 // The window of a form.
@@ -24,6 +25,8 @@ class FormWindow final : public QWidget {
   // Takes over what has changed in the Scene since the last call.
   void Follow();
   void BringToFront();
+  // What stands below the form from now on; it goes with the window.
+  void SetFooter(Footer* footer) { footer_ = footer; }
   // The control can't have the focus any more; nothing has it until the user moves on from there.
   void DropFocus(QWidget& control);
   // The widget of an object that has a surface of its own, or null.
@@ -50,6 +53,8 @@ class FormWindow final : public QWidget {
   Zoom desk_;  // how large all windows are to be, as it was seen last
   Surface surface_;
   FocusMark focusMark_;
+  Footer* footer_ = nullptr;
+  int footerHeight_ = 0;
   QPointer<QWidget> lostFocus_;  // where the focus was before nothing had it
   QMetaObject::Connection screenWatch_;
   ChangeCount seen_ = 0;

@@ -9,6 +9,8 @@
 #include "desktop/desktop_platform.h"
 #include "desktop/program_folders.h"
 #include "desktop/session.h"
+#include "desktop/strip.h"
+#include "front/companion.h"
 #include "program/program.h"
 
 namespace quintara::desktop {
@@ -47,10 +49,14 @@ int RunGame(int argumentCount, char** arguments) {
   TellIfMissing(folders.data, platform);
 
   Program program(platform);
+  const Companion companion(program);
   int result = 0;
   {
     Session session(program.scene(), AssistanceTable(program));
     platform.Attach(&session);
+    SeatStrip(session, program, companion);
+    session.WhenChosen([&platform](const Settings& settings) { platform.SetVolume(settings.Loudness()); });
+    session.KeepSettings();
     session.Run([&program] { program.Start(); });
     if (!program.scene().ended()) result = Application::exec();
     platform.Attach(nullptr);

@@ -76,8 +76,11 @@ void Session::ShowChanges() {
   if (scene_.ended()) return;
   for (Form* form : std::exchange(toShow_, {})) {
     auto window = windows_.find(form);
-    if (window == windows_.end())
+    if (window == windows_.end()) {
       window = windows_.try_emplace(form, new FormWindow(*form, *this), &Retire).first;
+      const auto footer = footers_.find(form);
+      if (footer != footers_.end()) window->second->SetFooter(footer->second(*window->second));
+    }
     window->second->Follow();
     window->second->BringToFront();
   }
@@ -112,6 +115,7 @@ void Session::SetZoom(const Zoom& zoom) {
 void Session::Choose(const Settings& settings) {
   settings_ = settings;
   if (keepsSettings_) SaveSettings(scene_, settings_);
+  if (whenChosen_) whenChosen_(settings_);
   SetZoom(Zoom(settings_.zoom.value_or(1)));
 }
 
@@ -125,6 +129,16 @@ void Session::KeepSettings() {
         "read is used; the file is put aside as settings.txt.damaged.");
   }
   Choose(read.settings);
+}
+
+void Session::SwitchFullScreen() {
+  FormWindow* window = WindowOf(*scene_.forms().front());
+  if (window == nullptr) return;
+  if (window->isFullScreen()) {
+    window->showNormal();
+  } else {
+    window->showFullScreen();
+  }
 }
 
 bool Session::PointerMoved(const QPoint& screen) {

@@ -8,6 +8,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "desktop/pictures.h"
@@ -24,6 +25,7 @@ class Scene;
 
 namespace quintara::desktop {
 
+class Footer;
 class FormWindow;
 
 // A running program on the screen: a window for each of its forms, and the real time that drives its timers.
@@ -53,6 +55,10 @@ class Session final : public Windows {
   // something appears or vanishes below a pointer at rest.
   bool PointerMoved(const QPoint& screen);
 
+  // What the window of a form shows below it, made with the window and as its child.
+  using MakeFooter = std::function<Footer*(FormWindow&)>;
+  void SetFooter(const Form& form, MakeFooter make) { footers_[&form] = std::move(make); }
+
   // How large windows are to be. Their places are on a desk that grows with them, so that they keep standing
   // beside each other.
   const Zoom& zoom() const { return zoom_; }
@@ -65,6 +71,10 @@ class Session final : public Windows {
   void Choose(const Settings& settings);
   // Begins with what was chosen at an earlier start and keeps what is chosen from now on. Damage is told.
   void KeepSettings();
+  // Is told each time.
+  void WhenChosen(std::function<void(const Settings&)> listener) { whenChosen_ = std::move(listener); }
+  // Lets the main window fill its screen, or gives it its own size again.
+  void SwitchFullScreen();
 
   // Null where the form has no window.
   FormWindow* WindowOf(const Form& form) const;
@@ -85,12 +95,14 @@ class Session final : public Windows {
   AssistanceTable assistance_;
   Settings settings_;
   bool keepsSettings_ = false;
+  std::function<void(const Settings&)> whenChosen_;
   Zoom zoom_;
   Pictures pictures_;
   QElapsedTimer realTime_;
   Pacing pacing_;
   QTimer nextTick_;
   std::map<const Form*, std::unique_ptr<FormWindow, void (*)(FormWindow*)>> windows_;
+  std::map<const Form*, MakeFooter> footers_;
   std::vector<Form*> toShow_;
   std::optional<QPoint> pointer_;
 };

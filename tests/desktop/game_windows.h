@@ -11,6 +11,8 @@
 #include "desktop/desktop_platform.h"
 #include "desktop/form_window.h"
 #include "desktop/session.h"
+#include "desktop/strip.h"
+#include "front/companion.h"
 #include "program/program.h"
 #include "tests/support/recording_platform.h"
 
@@ -19,8 +21,11 @@ namespace quintara::desktop {
 // The whole program in windows on the screen.
 class GameWindows : public testing::Test {
  protected:
-  GameWindows() {
+  enum class Below { Nothing, Strip };
+
+  explicit GameWindows(Below below = Below::Nothing) {
     platform.Attach(&session);
+    if (below == Below::Strip) SeatStrip(session, program, companion);
     session.Run([this] { program.Start(); });
     Activate(main);
   }
@@ -84,6 +89,7 @@ class GameWindows : public testing::Test {
   DesktopPlatform platform{QString::fromStdString(folder.text())};
   Program program{platform};
   QuintaraForm& main = program.quintara();
+  Companion companion{program};
   Session session{program.scene(), AssistanceTable(program)};
 };
 

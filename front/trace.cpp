@@ -1,0 +1,17 @@
+#include "front/trace.h"
+
+#include "front/shots.h"
+
+namespace quintara {
+
+QuintaraForm::Place PlaceOfTrace(const QuintaraForm& form, const PathPoint& point) {
+  const QuintaraForm::Place corner = QuintaraForm::InProfile(point.x, point.y);
+  const double half = form.shells(0).Width / 2;
+  return {corner.x + half, corner.y + half};
+}
+
+double TopOfTrace(const QuintaraForm& form) {
+  return form.header.Visible ? form.header.Top + form.header.Height : 0.0;
+}
+
+}  // namespace quintara
