@@ -25,7 +25,9 @@
 #include "desktop/application.h"
 #include "desktop/form_window.h"
 #include "desktop/session.h"
+#include "desktop/strip.h"
 #include "desktop/units.h"
+#include "front/companion.h"
 #include "front/tour_platform.h"
 #include "program/program.h"
 #include "scene/input.h"
@@ -41,14 +43,22 @@ void WaitUntilOnScreen(const QWidget& window) {
 
 constexpr int formWidth = 1015, formHeight = 713;
 
+// What stands around the forms: nothing, the strip, or the strip with the trace switched on.
+enum class Around { Nothing, Strip, Trace };
+
 struct Game {
   TourPlatform platform{PROJECT_FOLDER "/data"};
   Program program{platform};
+  Companion companion{program};
   Session session{program.scene(), AssistanceTable(program)};
   QuintaraForm& form = program.quintara();
 
-  Game() {
+  explicit Game(Around around = Around::Strip) {
     platform.Attach(&session);
+    if (around != Around::Nothing) SeatStrip(session, program, companion);
+    Settings settings;
+    settings.trace = around == Around::Trace;
+    session.Choose(settings);
     session.Run([this] { program.Start(); });
   }
   ~Game() { platform.Attach(nullptr); }
@@ -163,7 +173,7 @@ double ProcessorSeconds() {
 
 // Flights in real time: how long the program works in a turn of its event loop in which the shell moves.
 void FramesOfAFlight(benchmark::State& state) {
-  Game game;
+  Game game(static_cast<Around>(state.range(0)));
   WaitUntilOnScreen(*game.session.WindowOf(game.form));
   game.OpenProfile();
   game.Lay(300, 700);
@@ -194,7 +204,27 @@ void FramesOfAFlight(benchmark::State& state) {
   state.counters["p99_ms"] = milliseconds[milliseconds.size() * 99 / 100];
   state.counters["processor_percent"] = processor / seconds * 100;
 }
-BENCHMARK(FramesOfAFlight)->Iterations(3)->Unit(benchmark::kSecond);
+BENCHMARK(FramesOfAFlight)->ArgName("around")->DenseRange(0, 2)->Iterations(3)->Unit(benchmark::kSecond);
+
+// The work of one tick of a slow flight and what it makes the windows paint, whatever else the machine does.
+void TickOfAFlight(benchmark::State& state) {
+  Game game(static_cast<Around>(state.range(0)));
+  game.session.SetZoom(Zoom(static_cast<double>(state.range(1))));
+  WaitUntilOnScreen(*game.session.WindowOf(game.form));
+  game.OpenProfile();
+  game.Lay(300, 700);
+  constexpr std::int16_t slowest = 1;
+  game.session.Run([&] { UserDragsTo(game.form.flightTimeBar, slowest); });
+  game.Click(game.form.fireButton);
+  QCoreApplication::processEvents();
+  for (auto _ : state) game.Advance(17);
+  if (!game.form.shellTimer.Enabled) state.SkipWithError("the flight was over too early");
+}
+BENCHMARK(TickOfAFlight)
+    ->ArgNames({"around", "zoom"})
+    ->ArgsProduct({{0, 1, 2}, {1, 2}})
+    ->Iterations(2000)
+    ->Unit(benchmark::kMicrosecond);
 
 // Someone plays game after game and now and then reads a document or watches a demonstration.
 void PlayASecond(Game& game, std::mt19937& random) {

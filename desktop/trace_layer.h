@@ -1,14 +1,14 @@
 #pragma once
 
 #include <QtGui/QPixmap>
+#include <QtGui/QPolygonF>
 #include <QtWidgets/QWidget>
 
 #include <cstddef>
-#include <span>
 
 #include "front/zoom.h"
 
-class QPainter;
+class QRegion;
 
 namespace quintara {
 class QuintaraForm;
@@ -20,8 +20,8 @@ struct TraceLook;
 
 namespace quintara::desktop {
 
-// The paths of the shells at the present target, over all that stands in the profile. They are kept as a
-// picture, to which each tick of a flight adds one stroke.
+// The paths of the shells at the present target, over all that stands in the profile. They are kept as
+// pictures, to which each tick of a flight adds one stroke.
 class TraceLayer final : public QWidget {
  public:
   // Lies on the widget of the form's profile and goes with it.
@@ -35,14 +35,20 @@ class TraceLayer final : public QWidget {
 
  private:
   void Clear();
-  void DrawShot(const Shot& shot, const TraceLook& look, std::size_t& points, std::size_t& marks);
+  void Begin(const Zoom& zoom);
+  // What the pictures don't show yet of the shot that is the last one in them.
+  void Draw(const Shot& shot);
+  void Draw(const QPolygonF& line, const QPolygonF& marks, const TraceLook& look, QPixmap& picture) const;
+  void Weaken(const Shot& shot);
+  QRegion RegionOf(const Shot& shot) const;
   QPointF PlaceOf(const PathPoint& point) const;
 
   const QuintaraForm& form_;
   const ShotWatch& watch_;
-  QPixmap picture_;
+  QPixmap thin_;    // all of them
+  QPixmap strong_;  // the last one, over that
   Zoom zoom_;
-  // What of the shots is in the picture; of the last one, so many of its points and marks.
+  // What is in the pictures; of the last shot, so many of its points and marks.
   std::size_t shots_ = 0, points_ = 0, marks_ = 0;
   int target_ = 0;
   unsigned changes_ = 0;
