@@ -31,7 +31,8 @@ class StripActions final : public QObject {
   void OpenMenuAt(const QPoint& corner);
   const QMenu& contents() const { return menu_; }
 
-  QAction trace{"Trace"}, mute{"Mute"}, smaller{"Smaller"}, larger{"Larger"}, fullScreen{"Full screen"};
+  QAction trace{"Trace"}, mute{"Mute"}, smaller{"Smaller windows"}, larger{"Larger windows"},
+      fullScreen{"Full screen"};
   QAction menu{"Menu"};
 
  private:

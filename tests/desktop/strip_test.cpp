@@ -132,15 +132,15 @@ TEST_F(StripTest, ItsButtonsComeLastAndLeaveTheFocusToTheGame) {
   EXPECT_EQ(NameOfFocus(main), "cmdSound");
   Press(Qt::Key_V);
   EXPECT_FALSE(session.settings().mute);
-  Button("Larger").setFocus();
+  Button("Larger windows").setFocus();
   Press(Qt::Key_Return);
   EXPECT_EQ(session.settings().zoom, 1.1);
   Press(Qt::Key_B, Qt::ControlModifier);
-  EXPECT_FALSE(Button("Larger").isVisible());
+  EXPECT_FALSE(Button("Larger windows").isVisible());
   EXPECT_EQ(WindowOf(main).height(), 784);
   EXPECT_EQ(QApplication::focusWidget(), &WindowOf(main)) << "no button of the game has it now";
   Choose("Show the strip");
-  EXPECT_TRUE(Button("Larger").isVisible()) << "there is a way back";
+  EXPECT_TRUE(Button("Larger windows").isVisible()) << "there is a way back";
 }
 
 TEST_F(StripTest, WhatIsKeptIsForgottenAfterAQuestion) {
