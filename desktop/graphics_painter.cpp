@@ -119,7 +119,15 @@ void Paint(QPainter& painter, const Shape& shape) {
 
 void Paint(QPainter& painter, const Image& image, Pictures& pictures) {
   // In the pixels of the window, so that the picture is scaled once and stays sharp.
-  const QRect place = painter.worldTransform().mapRect(QRectF(AreaOf(image, pictures))).toRect();
+  const QRect area = AreaOf(image, pictures);
+  QRect place = painter.worldTransform().mapRect(QRectF(area)).toRect();
+  // One that fills its box reaches the box's edge, which may have been rounded to another pixel.
+  const Container& box = *image.container();
+  const QPaintDevice& surface = *painter.device();
+  if (area.x() + area.width() >= ToPixels(box.InnerWidth()))
+    place.setRight(std::max(place.right(), surface.width() - 1));
+  if (area.y() + area.height() >= ToPixels(box.InnerHeight()))
+    place.setBottom(std::max(place.bottom(), surface.height() - 1));
   painter.resetTransform();
   const qreal ratio = painter.device()->devicePixelRatioF();
   if (place.isEmpty()) return;
