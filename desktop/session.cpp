@@ -121,14 +121,15 @@ void Session::Choose(const Settings& settings) {
 
 void Session::KeepSettings() {
   const ReadSettings read = LoadSettings(scene_);
-  keepsSettings_ = true;
   if (read.damaged) {
     scene_.TellFault(
         "Some of what you have chosen of the windows could not be read in the file settings.txt. What could "
         "be "
         "read is used; the file is put aside as settings.txt.damaged.");
   }
+  keepsSettings_ = read.damaged;  // one that was read as it stands need not be written
   Choose(read.settings);
+  keepsSettings_ = true;
 }
 
 void Session::SwitchFullScreen() {

@@ -87,7 +87,7 @@ void StripActions::FillMenu() {
 }
 
 void StripActions::FillVolumeMenu() {
-  for (int percent = Settings::loudest; percent >= 0; percent -= volumeStep) {
+  for (int percent = Settings::loudest; percent > 0; percent -= volumeStep) {
     QAction* action = volumeMenu_.addAction(QString("%1 %").arg(percent));
     action->setCheckable(true);
     action->setData(percent);

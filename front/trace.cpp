@@ -11,7 +11,7 @@ QuintaraForm::Place PlaceOfTrace(const QuintaraForm& form, const PathPoint& poin
 }
 
 double TopOfTrace(const QuintaraForm& form) {
-  return form.header.Visible ? form.header.Top + form.header.Height : 0.0;
+  return form.backdrop.Top;
 }
 
 }  // namespace quintara

@@ -21,7 +21,8 @@ inline constexpr TraceLook earlierTrace{0x00604060, 0x00F0E0E8, 1, 1.75, 0.75};
 
 // Where a point of a path lies: the middle of the shell's marker, in twips from the corner of the profile.
 QuintaraForm::Place PlaceOfTrace(const QuintaraForm& form, const PathPoint& point);
-// How far down the header reaches, which hides the paths as it hides the shells; twips.
+// How far down the header is to be seen, which hides the paths as it hides the shells: to where the backdrop
+// begins, in twips.
 double TopOfTrace(const QuintaraForm& form);
 
 }  // namespace quintara
