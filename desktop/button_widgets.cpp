@@ -37,7 +37,7 @@ ButtonWidget::ButtonWidget(Button& button, QWidget& parent, Session& session)
   setPalette(PaletteWith(QPalette::Button, button.looks().backColor, QPalette::ButtonText,
                          button.looks().foreColor));
   setMouseTracking(true);
-  connect(this, &QPushButton::clicked, this, [this] { session_.Run([this] { UserClicks(button_); }); });
+  connect(this, &QPushButton::clicked, this, [this] { session_.Click(button_); });
 }
 
 void ButtonWidget::ShowLooks() {

@@ -24,6 +24,7 @@ void Control::Follow(const Zoom& zoom) {
   FollowName();
   // What is hidden is looked at when it shows.
   if (!box_.IsVisible()) return Hide();
+  FollowToolTip();
   const bool zoomed = std::exchange(zoom_, zoom) != zoom;
   if (!std::exchange(fresh_, false) && !zoomed && seen_ == box_.changes()) return;
   seen_ = box_.changes();
@@ -59,7 +60,6 @@ void Control::FollowName() {
   if (!std::exchange(named_, true)) {
     assistance_ = session_.assistance().For(box_);
     readOut_ = session_.assistance().ReadOutOf(box_);
-    widget_.setToolTip(ToQString(session_.assistance().ToolTipOf(box_)));
   } else if (seen_ == box_.changes() && (readOut_ == nullptr || readOutSeen_ == readOut_->changes())) {
     return;
   }
@@ -70,6 +70,15 @@ void Control::FollowName() {
   if (assistance_ == nullptr || !assistance_->announced || !IsShown(box_)) return;
   QAccessibleEvent news(&widget_, QAccessible::Alert);
   QAccessible::updateAccessibility(&news);
+}
+
+// What a control that is off waits for lies with others.
+void Control::FollowToolTip() {
+  if (assistance_ == nullptr) return;
+  std::string toolTip = session_.assistance().ToolTipOf(box_);
+  if (toolTip == toolTip_) return;
+  toolTip_ = std::move(toolTip);
+  widget_.setToolTip(ToQString(toolTip_));
 }
 
 Control* MakeControl(Object& object, QWidget& parent, Session& session) {
@@ -89,7 +98,8 @@ Control* MakeControl(Object& object, QWidget& parent, Session& session) {
         if (image.Click.bound()) made = new ImageButton(image, parent, session);
       },
       [&](Label& label) {
-        if (session.assistance().For(label) != nullptr) made = new ReadOut(label, parent, session);
+        const Assistance* row = session.assistance().For(label);
+        if (row != nullptr && !row->tipOnly) made = new ReadOut(label, parent, session);
       },
       [](Line&) {}, [](Shape&) {}, [](Timer&) {}, [](Menu&) {}, [](Form&) {});
   return made;

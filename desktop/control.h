@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "front/zoom.h"
 #include "scene/property.h"
 
@@ -37,6 +39,7 @@ class Control {
 
  private:
   void FollowName();
+  void FollowToolTip();
   void Hide();
   void DropFocus();
 
@@ -47,6 +50,7 @@ class Control {
   const Assistance* assistance_ = nullptr;
   const Object* readOut_ = nullptr;
   ChangeCount readOutSeen_ = 0;
+  std::string toolTip_;
   bool named_ = false;
   bool fresh_ = true;
 };

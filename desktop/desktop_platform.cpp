@@ -1,6 +1,8 @@
 #include "desktop/desktop_platform.h"
 
 #include <QtCore/QDateTime>
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
 #include <QtCore/QHash>
 #include <QtCore/QRandomGenerator>
 #include <QtGui/QClipboard>
@@ -15,6 +17,7 @@
 #include "desktop/form_window.h"
 #include "desktop/screens.h"
 #include "desktop/units.h"
+#include "front/uninstalling.h"
 #include "scene/form.h"
 #include "scene/menu.h"
 
@@ -23,6 +26,10 @@ namespace {
 
 Zoom ZoomOf(const Session* session) {
   return session != nullptr ? session->zoom() : Zoom();
+}
+
+std::string Native(const QString& folder) {
+  return QDir::toNativeSeparators(folder).toStdString();
 }
 
 // While this lives, a handler waits for the user.
@@ -44,7 +51,10 @@ class Waiting {
 }  // namespace
 
 DesktopPlatform::DesktopPlatform(const ProgramFolders& folders)
-    : programFolder_(folders.data), disk_(folders.data.toStdU16String(), folders.own.toStdU16String()) {
+    : programFolder_(folders.data),
+      howToUninstall_(HowToUninstall(folders.installed ? "" : Native(QFileInfo(folders.data).path()),
+                                     Native(folders.own))),
+      disk_(folders.data.toStdU16String(), folders.own.toStdU16String()) {
   disk_.MakeOwnList();
 }
 
@@ -92,6 +102,12 @@ Answer DesktopPlatform::RunMessageBox(const MessageBox& question) {
   box.setText(ToQString(question.text));
   box.setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No
                               : QMessageBox::StandardButtons(QMessageBox::Ok));
+  if (asks) {
+    // What can't be undone takes more than a blank or Enter typed in passing.
+    box.setDefaultButton(QMessageBox::No);
+    box.setEscapeButton(QMessageBox::No);
+  }
+  if (IsNoteOnUninstalling(question)) box.setInformativeText(ToQString(howToUninstall_));
   box.setIcon(QMessageBox::Warning);
   const Waiting waiting(windows());
   const int chosen = box.exec();

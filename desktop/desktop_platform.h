@@ -45,6 +45,7 @@ class DesktopPlatform final : public WindowsPlatform<Platform, Session> {
   Menu* RunPopupMenu(Form& form, Menu& menu, double x, double y);
 
   QString programFolder_;
+  std::string howToUninstall_;
   PlayersFiles disk_;
   bool isSilent_ = false;
   SoundPlayer sounds_;

@@ -4,13 +4,15 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QTextEdit>
 
 namespace quintara::desktop {
 namespace {
 
 bool ShowsItsFocus(const QWidget& widget) {
   return qobject_cast<const QPushButton*>(&widget) != nullptr ||
-         qobject_cast<const QLineEdit*>(&widget) != nullptr;
+         qobject_cast<const QLineEdit*>(&widget) != nullptr ||
+         qobject_cast<const QTextEdit*>(&widget) != nullptr;
 }
 
 }  // namespace

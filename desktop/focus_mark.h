@@ -4,8 +4,7 @@
 
 namespace quintara::desktop {
 
-// The dotted frame around the control of a window that has the focus. Buttons and text boxes show theirs
-// themselves.
+// The dotted frame around the control of a window that has the focus. Buttons and texts show theirs themselves.
 class FocusMark final : public QWidget {
  public:
   explicit FocusMark(QWidget& window);

@@ -147,11 +147,11 @@ void FormWindow::moveEvent(QMoveEvent* event) {
 void FormWindow::keyPressEvent(QKeyEvent* event) {
   // What comes here is of no use to the control that has the focus.
   if (const auto zoom = ZoomByKey(session_.zoom(), *event)) return session_.SetZoom(*zoom);
-  if (event->key() == Qt::Key_Escape) {
-    const bool isMain = &form_ == session_.scene().forms().front();
-    if (!isMain) close();
+  const bool isMain = &form_ == session_.scene().forms().front();
+  if (event->key() == Qt::Key_Escape && !isMain) {
+    close();
   } else if (Object* object = session_.assistance().ForKey(form_, NameOfKey(*event))) {
-    if (!event->isAutoRepeat()) session_.Run([object] { UserClicks(*object); });
+    session_.Click(*object);
   } else {
     QWidget::keyPressEvent(event);
   }

@@ -131,7 +131,11 @@ void Paint(QPainter& painter, const Image& image, Pictures& pictures) {
   painter.resetTransform();
   const qreal ratio = painter.device()->devicePixelRatioF();
   if (place.isEmpty()) return;
-  painter.drawPixmap(place, pictures.Scaled(image.looks().picture, place.size() * ratio));
+  // One that can be clicked is a button, and looks it; the others are pictures.
+  const bool isOff = image.Click.bound() && !image.IsEnabled();
+  const QSize size = place.size() * ratio;
+  const std::string_view name = image.looks().picture;
+  painter.drawPixmap(place, isOff ? pictures.Off(name, size) : pictures.Scaled(name, size));
 }
 
 }  // namespace

@@ -4,15 +4,13 @@
 
 #include "desktop/keyboard.h"
 #include "desktop/session.h"
-#include "scene/input.h"
 
 namespace quintara::desktop {
 
 ImageButton::ImageButton(Image& image, QWidget& parent, Session& session)
     : QAbstractButton(&parent), Control(image, *this, session) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
-  connect(this, &QAbstractButton::clicked, this,
-          [&image, &session] { session.Run([&image] { UserClicks(image); }); });
+  connect(this, &QAbstractButton::clicked, this, [&image, &session] { session.Click(image); });
 }
 
 void ImageButton::keyPressEvent(QKeyEvent* event) {

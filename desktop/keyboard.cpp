@@ -2,7 +2,6 @@
 
 #include <QtGui/QKeyEvent>
 #include <QtGui/QKeySequence>
-#include <QtWidgets/QAbstractSlider>
 
 namespace quintara::desktop {
 namespace {
@@ -12,31 +11,35 @@ Qt::KeyboardModifiers CommandsOf(const QKeyEvent& event) {
   return event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
 }
 
-QAbstractSlider::SliderAction ActionOf(int key) {
-  switch (key) {
+}  // namespace
+
+bool IsEnter(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+bool PressesButton(const QKeyEvent& event) {
+  return IsEnter(event) && !event.isAutoRepeat();
+}
+
+std::optional<BarMove> MoveByKey(const QKeyEvent& event) {
+  if (CommandsOf(event)) return std::nullopt;
+  switch (event.key()) {
     case Qt::Key_Up:
-    case Qt::Key_Left: return QAbstractSlider::SliderSingleStepSub;
+    case Qt::Key_Right: return BarMove::StepUp;
     case Qt::Key_Down:
-    case Qt::Key_Right: return QAbstractSlider::SliderSingleStepAdd;
-    case Qt::Key_PageUp: return QAbstractSlider::SliderPageStepSub;
-    case Qt::Key_PageDown: return QAbstractSlider::SliderPageStepAdd;
-    case Qt::Key_Home: return QAbstractSlider::SliderToMinimum;
-    case Qt::Key_End: return QAbstractSlider::SliderToMaximum;
-    default: return QAbstractSlider::SliderNoAction;
+    case Qt::Key_Left: return BarMove::StepDown;
+    case Qt::Key_PageUp: return BarMove::PageUp;
+    case Qt::Key_PageDown: return BarMove::PageDown;
+    case Qt::Key_Home: return BarMove::Lowest;
+    case Qt::Key_End: return BarMove::Highest;
+    default: return std::nullopt;
   }
 }
 
-}  // namespace
-
-bool PressesButton(const QKeyEvent& event) {
-  return (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) && !event.isAutoRepeat();
-}
-
-bool MoveByKey(QAbstractSlider& bar, const QKeyEvent& event) {
-  const auto action = CommandsOf(event) ? QAbstractSlider::SliderNoAction : ActionOf(event.key());
-  if (action == QAbstractSlider::SliderNoAction) return false;
-  bar.triggerAction(action);
-  return true;
+std::optional<char> CharacterByKey(const QKeyEvent& event) {
+  const QString text = CommandsOf(event) ? QString() : event.text();
+  if (text.size() != 1 || !text.front().isPrint()) return std::nullopt;
+  return text.front().toLatin1();
 }
 
 std::optional<Zoom> ZoomByKey(const Zoom& zoom, const QKeyEvent& event) {

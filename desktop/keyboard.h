@@ -3,9 +3,9 @@
 #include <optional>
 #include <string>
 
+#include "front/bar_values.h"
 #include "front/zoom.h"
 
-class QAbstractSlider;
 class QKeyEvent;
 
 namespace quintara::desktop {
@@ -13,9 +13,14 @@ namespace quintara::desktop {
 // Return or Enter, which press a button as Space does. A key that is held down presses once.
 bool PressesButton(const QKeyEvent& event);
 
-// Moves a bar by a key. Up, Left, Page Up and Home lead to its top or left end, whichever value stands there.
-// False: the key is none of those.
-bool MoveByKey(QAbstractSlider& bar, const QKeyEvent& event);
+// Return or Enter, whichever way it is pressed.
+bool IsEnter(const QKeyEvent& event);
+
+// How a key moves a bar; nothing where it does not.
+std::optional<BarMove> MoveByKey(const QKeyEvent& event);
+
+// The character that a key types; nothing for keys that move or command.
+std::optional<char> CharacterByKey(const QKeyEvent& event);
 
 // Ctrl with plus, minus or 0: how large windows are to be from now on.
 std::optional<Zoom> ZoomByKey(const Zoom& zoom, const QKeyEvent& event);

@@ -14,6 +14,20 @@ QImage Decode(const QString& name) {
   return QImage(QString(":/pictures/%1.png").arg(name), "PNG");
 }
 
+// Every colour as a grey that is half way to the grey of the panels, as classic as a button's caption.
+QImage Paled(const QImage& picture) {
+  constexpr int face = 0xC0;
+  QImage paled = picture.convertToFormat(QImage::Format_ARGB32);
+  for (int y = 0; y < paled.height(); ++y) {
+    for (int x = 0; x < paled.width(); ++x) {
+      const QRgb colour = paled.pixel(x, y);
+      const int grey = (qGray(colour) + face) / 2;
+      paled.setPixel(x, y, qRgba(grey, grey, grey, qAlpha(colour)));
+    }
+  }
+  return paled;
+}
+
 }  // namespace
 
 // By far the largest picture is on show from the start. It is decoded while the fonts are being looked up.
@@ -43,6 +57,12 @@ QPixmap Pictures::Scaled(std::string_view name, const QSize& size) {
     known.prepend(picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
   }
   return known.front();
+}
+
+QPixmap Pictures::Off(std::string_view name, const QSize& size) {
+  const QString key = ToQString(name) + " off";
+  if (!decoded_.contains(key)) decoded_.insert(key, QPixmap::fromImage(Paled(Embedded(name).toImage())));
+  return Scaled(key.toStdString(), size);
 }
 
 QPixmap Pictures::Shown(std::string_view name, const Zoom& zoom, qreal pixelRatio) {

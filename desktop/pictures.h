@@ -23,6 +23,8 @@ class Pictures {
   const QPixmap& Embedded(std::string_view name);
   // The picture squeezed or spread to a size in pixels of the screen.
   QPixmap Scaled(std::string_view name, const QSize& size);
+  // The same in pale grey, for a button that is off.
+  QPixmap Off(std::string_view name, const QSize& size);
   // The picture as large as it is shown on a screen with so many pixels to each of a window's.
   QPixmap Shown(std::string_view name, const Zoom& zoom, qreal pixelRatio);
 

@@ -13,7 +13,7 @@ ProgramFolders FindFolders(const QString& executableFolder, const QString& insta
   if (QFileInfo(beside).isDir()) return {beside, QFileInfo(beside).isWritable() ? beside : playersFolder};
   const QString installed = QDir::cleanPath(executableFolder + '/' + installedData);
   // Even one that could be written to belongs to all players, and to whoever will remove the program.
-  if (QFileInfo(installed).isDir()) return {installed, playersFolder};
+  if (QFileInfo(installed).isDir()) return {installed, playersFolder, true};
   return {beside, playersFolder};
 }
 

@@ -6,8 +6,9 @@ namespace quintara::desktop {
 
 // Where the program's files lie.
 struct ProgramFolders {
-  QString data;  // documents, pictures and sounds
-  QString own;   // the files that the program writes
+  QString data;            // documents, pictures and sounds
+  QString own;             // the files that the program writes
+  bool installed = false;  // for all, spread over the folders of the system
 };
 
 // Beside the executable lies a data folder where it was built or unpacked, and all is kept in it; if it can't

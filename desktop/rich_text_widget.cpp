@@ -12,6 +12,7 @@
 #include "desktop/appearance.h"
 #include "desktop/rich_document.h"
 #include "desktop/session.h"
+#include "front/coverage.h"
 #include "scene/input.h"
 
 namespace quintara::desktop {
@@ -28,8 +29,15 @@ RichTextWidget::RichTextWidget(RichTextBox& box, QWidget& parent, Session& sessi
   connect(this, &QTextEdit::selectionChanged, this, &RichTextWidget::HandInSelection);
 }
 
+// Who opens a document is about to read it: its keys work at once.
+void RichTextWidget::Follow(const Zoom& shown) {
+  Control::Follow(shown);
+  if (isVisibleTo(window()) && std::exchange(opens_, false)) setFocus(Qt::OtherFocusReason);
+}
+
 void RichTextWidget::ShowLooks() {
   const QSignalBlocker quiet(this);
+  setViewportMargins(0, 0, 0, zoom()(ToPixels(CoveredAtItsEnd(box_))));
   ShowDocument();
   ShowSelection();
 }
@@ -38,6 +46,7 @@ void RichTextWidget::ShowDocument() {
   const bool another = std::exchange(shown_, box_.documentChanges()) != box_.documentChanges();
   const bool zoomed = std::exchange(shownAt_, zoom()) != zoom();
   if (!another && !zoomed) return;
+  opens_ = opens_ || (another && !box_.PlainText().empty());
   constexpr int margin = 6;
   const QScrollBar& bar = *verticalScrollBar();
   const double read = another ? 0 : bar.value() / std::max<double>(bar.maximum(), 1);

@@ -14,6 +14,8 @@ class RichTextWidget final : public QTextEdit, public Control {
  public:
   RichTextWidget(RichTextBox& box, QWidget& parent, Session& session);
 
+  void Follow(const Zoom& zoom) override;
+
  protected:
   void ShowLooks() override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -28,6 +30,7 @@ class RichTextWidget final : public QTextEdit, public Control {
   RichTextBox& box_;
   std::optional<ChangeCount> shown_;  // the count of the document on show
   Zoom shownAt_;
+  bool opens_ = false;  // another document is about to show
 };
 
 }  // namespace quintara::desktop

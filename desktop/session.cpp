@@ -11,6 +11,7 @@
 #include "desktop/appearance.h"
 #include "desktop/form_window.h"
 #include "scene/form.h"
+#include "scene/input.h"
 #include "scene/scene.h"
 
 namespace quintara::desktop {
@@ -39,6 +40,12 @@ Session::~Session() {
 void Session::Run(const std::function<void()>& input) {
   pacing_.CatchUp(realTime_.elapsed());
   RunGuarded(input);
+}
+
+void Session::Click(Object& control) {
+  // A press of what is off is none, and the next one is not the second.
+  if (IsShown(control) && control.IsEnabled() && !presses_.Counts(control)) return;
+  Run([&control] { UserClicks(control); });
 }
 
 void Session::Tick() {

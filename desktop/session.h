@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "desktop/pictures.h"
+#include "desktop/press_watch.h"
 #include "front/assistance.h"
 #include "front/pacing.h"
 #include "front/settings.h"
@@ -20,6 +21,7 @@
 
 namespace quintara {
 class Form;
+class Object;
 class Scene;
 }  // namespace quintara
 
@@ -41,6 +43,9 @@ class Session final : public Windows {
   // Hands the user's input to the Scene and shows what came of it. All input goes through here. A fault in a
   // handler is told to the user, and the program goes on.
   void Run(const std::function<void()>& input);
+
+  // The user has pressed a control, with the mouse or a key. A press that was not meant is dropped.
+  void Click(Object& control);
 
   // Shows the Scene as it stands in the middle of a handler that is about to wait for the user.
   void BeginWaiting();
@@ -98,6 +103,7 @@ class Session final : public Windows {
   std::function<void(const Settings&)> whenChosen_;
   Zoom zoom_;
   Pictures pictures_;
+  PressWatch presses_{assistance_};
   QElapsedTimer realTime_;
   Pacing pacing_;
   QTimer nextTick_;

@@ -81,7 +81,7 @@ class SoundPlayer::Speaker final : public QObject {
 bool SoundPlayer::End() {
   if (thread_ == nullptr) return true;
   thread_->quit();
-  constexpr unsigned long patience = 500;  // ms
+  constexpr unsigned long patience = 100;  // ms
   if (!thread_->wait(patience)) return false;
   delete std::exchange(thread_, nullptr);
   return true;

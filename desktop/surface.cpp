@@ -177,8 +177,14 @@ Object* Surface::Under(const QPoint& place) const {
 bool Surface::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip) return QWidget::event(event);
   const auto* help = static_cast<QHelpEvent*>(event);
-  QToolTip::showText(help->globalPos(), ToQString(session_.assistance().ToolTipOf(*Under(help->pos()))),
-                     this);
+  const double twips = twipsPerPixel / zoom_.factor();
+  const Object* tipped = session_.assistance().TippedAt(container_, (help->pos().x() + 0.5) * twips,
+                                                        (help->pos().y() + 0.5) * twips);
+  if (tipped == nullptr) {
+    QToolTip::hideText();
+  } else {
+    QToolTip::showText(help->globalPos(), ToQString(session_.assistance().ToolTipOf(*tipped)), this);
+  }
   return true;
 }
 
@@ -189,7 +195,7 @@ void Surface::mousePressEvent(QMouseEvent* event) {
 void Surface::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;
   Object* released = Under(event->position().toPoint());
-  if (std::exchange(pressed_, nullptr) == released) session_.Run([released] { UserClicks(*released); });
+  if (std::exchange(pressed_, nullptr) == released) session_.Click(*released);
 }
 
 void Surface::mouseMoveEvent(QMouseEvent* event) {

@@ -53,6 +53,24 @@ void AssistanceTable::Add(std::initializer_list<Assistance> rows) {
   }
 }
 
+Assistance& AssistanceTable::RowToAddTo(Object& control) {
+  if (For(control) == nullptr) Add({{control}});
+  return rows_[RowOf(control)];
+}
+
+void AssistanceTable::AddReasons(
+    std::initializer_list<std::pair<Object*, std::function<std::string_view()>>> whyOff) {
+  for (const auto& [control, reason] : whyOff) RowToAddTo(*control).whyOff = reason;
+}
+
+void AssistanceTable::AddScales(std::initializer_list<std::pair<Object*, BarScale>> scales) {
+  for (const auto& [bar, scale] : scales) RowToAddTo(*bar).scale = scale;
+}
+
+void AssistanceTable::PressOnce(std::initializer_list<Object*> controls) {
+  for (Object* control : controls) RowToAddTo(*control).pressedOnce = true;
+}
+
 std::size_t AssistanceTable::RowOf(const Object& control) const {
   const auto found = rowOf_.find(&control);
   return found == rowOf_.end() ? rows_.size() : found->second;
@@ -80,11 +98,31 @@ std::string AssistanceTable::NameOf(const Object& control) const {
 
 std::string AssistanceTable::ToolTipOf(const Object& control) const {
   const Assistance* row = For(control);
-  if (row == nullptr || row->toolTip.empty()) return {};
+  if (row == nullptr) return {};
+  if (!control.IsEnabled() && row->whyOff) return std::string(row->whyOff());
   std::string tip(row->toolTip);
   const std::string_view key = row->keys.substr(0, row->keys.find(betweenKeys));
-  if (!key.empty()) tip.append(" (").append(key).append(")");
+  if (!tip.empty() && !key.empty()) tip.append(" (").append(key).append(")");
   return tip;
+}
+
+const Object* AssistanceTable::TippedAt(const Container& container, double left, double top) const {
+  for (const bool graphical : {false, true}) {
+    for (const Object* child : container.children()) {
+      if (child->IsGraphical() != graphical || !child->IsVisible() || ToolTipOf(*child).empty()) continue;
+      const Rectangle place = Visit(
+          *child, [](const Box& box) { return box.Surface(); }, [](const Object&) { return Rectangle{}; });
+      if (left >= place.left && left < place.left + place.width && top >= place.top &&
+          top < place.top + place.height)
+        return child;
+    }
+  }
+  return nullptr;
+}
+
+BarScale AssistanceTable::ScaleOf(const Object& bar) const {
+  const Assistance* row = For(bar);
+  return row != nullptr ? row->scale : BarScale{};
 }
 
 std::vector<Object*> AssistanceTable::InTabOrder(const Form& form) const {

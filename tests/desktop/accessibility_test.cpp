@@ -71,6 +71,21 @@ TEST_F(AccessibilityTest, ToolTipsSayWhatTerseButtonsDo) {
   QApplication::sendEvent(&panel, &over);
   EXPECT_EQ(QToolTip::text(), "Fire the shell (F)") << "the image is painted, but has one too";
   QToolTip::hideText();
+  Do([&] { main.fireButton.Enabled = false; });
+  QApplication::sendEvent(&panel, &over);
+  EXPECT_EQ(QToolTip::text(), "Move a bar first");
+  QToolTip::hideText();
+  EXPECT_EQ(WidgetOf(main.resetButton).toolTip(), "After a hit or the bonus shell");
+  EXPECT_FALSE(WidgetOf(main.elevationBar).toolTip().isEmpty());
+  for (const Object* object :
+       {static_cast<const Object*>(&main.resetButton), static_cast<const Object*>(&main.magnifyButton)}) {
+    QWidget& off = WidgetOf(*object);
+    ASSERT_FALSE(off.isEnabled());
+    QHelpEvent overIt(QEvent::ToolTip, off.rect().center(), off.mapToGlobal(off.rect().center()));
+    QApplication::sendEvent(&off, &overIt);
+    EXPECT_EQ(QToolTip::text(), off.toolTip()) << object->name();
+    QToolTip::hideText();
+  }
 }
 
 TEST(AppearanceTest, ADarkSystemChangesNothing) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QtGui/QKeyEvent>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
 
@@ -47,9 +48,17 @@ class GameWindows : public testing::Test {
     Do([&] { form.Show(); });
     Activate(form);
   }
-  // A key as the user presses it: it goes to whatever has the focus.
+  // A key as the user presses it, a while after the last one: it goes to whatever has the focus.
   void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    SendKey(QEvent::KeyPress, key, modifiers, pressedAt_ += 1000);
+    SendKey(QEvent::KeyRelease, key, modifiers, pressedAt_ + 50);
+  }
+  static void SendKey(QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers modifiers, quint64 time) {
+    const bool types = key < 0x80;
+    QKeyEvent event(type, key, modifiers,
+                    types ? QString(QChar(QLatin1Char(static_cast<char>(key)))) : QString());
+    event.setTimestamp(time);
+    if (QApplication::focusWidget() != nullptr) QApplication::sendEvent(QApplication::focusWidget(), &event);
   }
   // From the locked-on target on, without the wait for it. The gun is laid, so that it can be fired.
   void OpenProfile() {
@@ -91,6 +100,9 @@ class GameWindows : public testing::Test {
   QuintaraForm& main = program.quintara();
   Companion companion{program};
   Session session{program.scene(), AssistanceTable(program)};
+
+ private:
+  quint64 pressedAt_ = 1'000'000;
 };
 
 using Names = std::vector<std::string>;

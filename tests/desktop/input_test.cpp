@@ -3,6 +3,7 @@
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QTextCursor>
+#include <QtGui/QWheelEvent>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListView>
 #include <QtWidgets/QPushButton>
@@ -12,6 +13,7 @@
 #include <QtWidgets/QStyleOptionSlider>
 #include <QtWidgets/QTextEdit>
 
+#include "desktop/value_bubble.h"
 #include "tests/desktop/window_form.h"
 
 namespace quintara::desktop {
@@ -45,7 +47,9 @@ TEST_F(InputTest, AClickOnAnImageIsAPressAndAReleaseOverIt) {
   Do([&] { form.imgFire.Enabled = false; });
   ClickAt(3100, 400);
   EXPECT_EQ(heard, Heard{"fire"});
-  EXPECT_NE(ColourAt(3210, 510), QColor(0, 255, 0)) << "a disabled image is drawn as usual";
+  EXPECT_NE(ColourAt(3210, 510), QColor(0, 255, 0)) << "it is still there";
+  const QColor off = ColourAt(3210, 510);
+  EXPECT_LT(off.saturation(), 10) << "and pale";
 }
 
 TEST_F(InputTest, MovesReachWhatIsUnderThePointer) {
@@ -98,6 +102,26 @@ TEST_F(InputTest, AScrollBarMayCountDownwards) {
   EXPECT_EQ(bar.value(), 450);
 }
 
+TEST_F(InputTest, ANotchOfTheWheelIsOneSmallStepUpwards) {
+  const auto turn = [](QWidget& bar, int angle) {
+    const QPointF middle = bar.rect().center();
+    QWheelEvent wheel(middle, bar.mapToGlobal(middle), {}, {0, angle}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&bar, &wheel);
+  };
+  auto& bar = WidgetOf<QScrollBar>(form.vsbUpside);
+  turn(bar, 120);
+  EXPECT_EQ(form.vsbUpside.Value, 260);
+  turn(bar, 240);
+  turn(bar, -120);
+  EXPECT_EQ(form.vsbUpside.Value, 270);
+  auto& slider = WidgetOf<QSlider>(form.sldRuled);
+  for (const int part : {60, 60, 60}) turn(slider, part);
+  EXPECT_EQ(form.sldRuled.Value, 13);
+  turn(slider, -1200);
+  EXPECT_EQ(form.sldRuled.Value, 10);
+}
+
 TEST_F(InputTest, AThumbThatIsDraggedSetsTheValueWhenItIsLetGo) {
   auto& bar = WidgetOf<QScrollBar>(form.vsbUpside);
   Note(form.vsbUpside.Change, "change");
@@ -105,7 +129,13 @@ TEST_F(InputTest, AThumbThatIsDraggedSetsTheValueWhenItIsLetGo) {
   bar.setSliderPosition(100);
   bar.setSliderPosition(200);
   EXPECT_EQ(heard, Heard{});
+  const auto* bubble = window().findChild<ValueBubble*>();
+  ASSERT_NE(bubble, nullptr);
+  EXPECT_TRUE(bubble->isVisible());
+  EXPECT_EQ(bubble->text(), "550") << "what it would be";
+  EXPECT_TRUE(window().rect().contains(bubble->geometry()));
   bar.setSliderDown(false);
+  EXPECT_FALSE(bubble->isVisible());
   EXPECT_EQ(heard, Heard{"change"});
   EXPECT_EQ(form.vsbUpside.Value, 550);
 

@@ -44,6 +44,32 @@ TEST_F(SessionTest, TimersTickInRealTimeAndLostTicksAreNotMadeUp) {
   EXPECT_EQ(ticks, before);
 }
 
+TEST_F(SessionTest, NothingIsErasedByAKeyTypedInPassing) {
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space, Qt::Key_Escape}) {
+    Answer answer = Answer::Yes;
+    WhenOpen<QMessageBox>(window(), [&](QMessageBox& box) {
+      EXPECT_EQ(box.informativeText(), "");
+      QTest::keyClick(box.focusWidget() != nullptr ? box.focusWidget() : &box, key);
+    });
+    Do([&] {
+      scene.Ask({"Sure?", "Title", MessageBox::Buttons::YesAndNo}, form,
+                [&](Answer given) { answer = given; });
+    });
+    EXPECT_EQ(answer, Answer::No) << key;
+  }
+}
+
+TEST_F(SessionTest, TheNoteOnUninstallingSaysHowItIsDoneHere) {
+  QString said;
+  WhenOpen<QMessageBox>(window(), [&](QMessageBox& box) {
+    said = box.informativeText();
+    EXPECT_EQ(box.text(), "Simply double click");
+    QTest::keyClick(&box, Qt::Key_Escape);
+  });
+  Do([&] { scene.Tell("Simply double click", "Uninstall Quintara"); });
+  EXPECT_TRUE(said.contains("delete the folder")) << said.toStdString();
+}
+
 TEST_F(SessionTest, AMessageBoxHoldsTheTicks) {
   int whileOpen = -1;
   Answer answer = Answer::Ok;

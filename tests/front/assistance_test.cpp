@@ -47,8 +47,71 @@ TEST(AssistanceTest, NamesAndTipsSayWhatIsShown) {
   EXPECT_EQ(table.NameOf(main.score), "Score, 0");
   EXPECT_EQ(table.NameOf(main.backdrop), "") << "it has nothing to say";
   EXPECT_EQ(table.ToolTipOf(main.helpButton), "Open the help menu (H)");
-  EXPECT_EQ(table.ToolTipOf(main.cancelButton), "Leave the game");
-  EXPECT_EQ(table.ToolTipOf(main.score), "");
+  EXPECT_EQ(table.ToolTipOf(main.cancelButton), "Leave the game at once");
+  EXPECT_EQ(table.ToolTipOf(main.advice), "");
+}
+
+TEST(AssistanceTest, WhatIsOffSaysWhy) {
+  RunningGame game;
+  game.Start();
+  const AssistanceTable table(game.program);
+  QuintaraForm& main = game.form;
+  const auto expectTips = [&](std::initializer_list<std::pair<const Object*, const char*>> tips,
+                              const char* when) {
+    for (const auto& [control, tip] : tips) EXPECT_EQ(table.ToolTipOf(*control), tip) << when;
+  };
+  expectTips({{&main.magnifyButton, "Search first"}, {&main.resetButton, "After a hit or the bonus shell"}},
+             "at the start");
+  constexpr double at22Kilometres = 0.06325;
+  game.chance.Queue(at22Kilometres);
+  game.Click(main.searchButton);
+  expectTips({{&main.searchButton, "The radar is searching"},
+              {&main.magnifyButton, "Wait until the radar locks on"}},
+             "while the radar searches");
+  while (!main.magnifyButton.Enabled) game.Advance(50);
+  game.Advance(50);
+  expectTips({{&main.searchButton, "A target is found: Magnify first"},
+              {&main.magnifyButton, "Magnify the terrain and open the simulator (M)"}},
+             "with a target");
+  game.Click(main.magnifyButton);
+  expectTips({{&main.searchButton, "One target at a time: hit this one first"},
+              {&main.magnifyButton, "The profile is open"},
+              {&main.fireButton, "Move a bar first"}},
+             "in the profile");
+  game.Click(main.dragButton);
+  expectTips({{&main.dragButton, "Drag is on until this shell bursts"}}, "with drag");
+  game.FireTo(22'000, -1);
+  expectTips({{&main.fireButton, "It was a hit: Reset comes in a moment"},
+              {&main.dragButton, "It was a hit: Reset comes in a moment"}},
+             "among the fragments");
+  while (!main.resetButton.Enabled) game.Advance(100);
+  for (const Object* control :
+       {static_cast<const Object*>(&main.fireButton), static_cast<const Object*>(&main.elevationBar),
+        static_cast<const Object*>(&main.dragButton), static_cast<const Object*>(&main.searchButton)})
+    EXPECT_EQ(table.ToolTipOf(*control), "Reset first") << control->name();
+
+  TrajectoryForm& simulator = game.program.trajectory();
+  simulator.Show();
+  EXPECT_EQ(table.ToolTipOf(simulator.stopButton), "Fire first");
+  game.Click(simulator.fireButton);
+  EXPECT_EQ(table.ToolTipOf(simulator.fireButton), "Move a bar to fire again");
+}
+
+TEST(AssistanceTest, TipsAreFoundOfWhatIsPaintedAlsoOff) {
+  RunningGame game;
+  game.Start();
+  game.OpenProfile();
+  const AssistanceTable table(game.program);
+  QuintaraForm& main = game.form;
+  const auto at = [&](const PictureBox& box, const Box& control) {
+    const Rectangle place = control.Surface();
+    return table.TippedAt(box, place.left + place.width / 2, place.top + place.height / 2);
+  };
+  ASSERT_FALSE(main.fireButton.Enabled);
+  EXPECT_EQ(at(main.firingPanel, main.fireButton), &main.fireButton);
+  EXPECT_EQ(at(main.console, main.score), &main.score);
+  EXPECT_EQ(at(main.console, main.scoreHeadings), &main.scoreBoard) << "what lies behind it tells";
+  EXPECT_EQ(at(main.firingPanel, main.shellInGun), nullptr);
 }
 
 }  // namespace
