@@ -17,7 +17,7 @@
 namespace quintara::desktop {
 namespace {
 
-constexpr int stripHeight = 24, buttonWidth = 26, gap = 2, textInset = 6;  // at a zoom of 1
+constexpr int stripHeight = 24, buttonWidth = 26, stripGap = 2, textInset = 6;  // at a zoom of 1
 constexpr Font sentenceFont{"Arial", 9.75};
 
 }  // namespace
@@ -64,15 +64,15 @@ void Strip::Follow(const Zoom& zoom) {
 }
 
 void Strip::LayOut() {
-  int right = width() - zoom_(gap);
+  int right = width() - zoom_(stripGap);
   for (auto button = buttons_.rbegin(); button != buttons_.rend(); ++button) {
     const int left = right - zoom_(buttonWidth);
     button->Follow(zoom_);
-    button->setGeometry(left, gap, right - left, height() - 2 * gap + 1);
+    button->setGeometry(left, stripGap, right - left, height() - 2 * stripGap + 1);
     right = left;
   }
   sentence_.setFont(ToQFont(sentenceFont, zoom_));
-  sentence_.setGeometry(zoom_(gap + textInset), 0, right - zoom_(gap + 2 * textInset), height());
+  sentence_.setGeometry(zoom_(stripGap + textInset), 0, right - zoom_(stripGap + 2 * textInset), height());
   ShowSentence();
 }
 
@@ -90,8 +90,9 @@ void Strip::paintEvent(QPaintEvent*) {
   painter.fillRect(rect(), palette().window());
   painter.setPen(palette().light().color());
   painter.drawLine(0, 0, width(), 0);
-  const QRect field(zoom_(gap), gap, sentence_.geometry().right() + zoom_(textInset) - zoom_(gap),
-                    height() - 2 * gap);
+  const QRect field(zoom_(stripGap), stripGap,
+                    sentence_.geometry().right() + zoom_(textInset) - zoom_(stripGap),
+                    height() - 2 * stripGap);
   qDrawShadePanel(&painter, field, palette(), true);
 }
 

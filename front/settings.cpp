@@ -11,7 +11,7 @@ namespace {
 
 constexpr double smallestZoom = 0.25, largestZoom = 8;
 constexpr double farthestPixel = 32767;
-constexpr std::string_view equals = " = ", place = "place of ";
+constexpr std::string_view equals = " = ", placeOf = "place of ";
 constexpr std::string_view settingsName = "settings.txt", damagedName = "settings.txt.damaged";
 
 std::optional<double> NumberWithin(std::string_view text, double least, double most) {
@@ -54,8 +54,8 @@ bool TakeLine(Settings& settings, std::string_view line) {
   if (name == "trace") return Take(settings.trace, Switch(value));
   if (name == "sound captions") return Take(settings.soundCaptions, Switch(value));
   const auto point = PointFrom(value);
-  if (!name.starts_with(place) || !point) return false;
-  settings.places[std::string(name.substr(place.size()))] = *point;
+  if (!name.starts_with(placeOf) || !point) return false;
+  settings.places[std::string(name.substr(placeOf.size()))] = *point;
   return true;
 }
 
@@ -79,7 +79,7 @@ std::vector<std::string> LinesOf(const Settings& settings) {
   lines.push_back(SettingLine("trace", onOrOff(settings.trace)));
   lines.push_back(SettingLine("sound captions", onOrOff(settings.soundCaptions)));
   for (const auto& [form, point] : settings.places)
-    lines.push_back(SettingLine(std::string(place) + form, ToText(point.x) + " " + ToText(point.y)));
+    lines.push_back(SettingLine(std::string(placeOf) + form, ToText(point.x) + " " + ToText(point.y)));
   return lines;
 }
 
