@@ -29,7 +29,6 @@ class StripActions final : public QObject {
   void Follow();
   // Opens the menu with its lower right corner there, or as near as the screen has room.
   void OpenMenuAt(const QPoint& corner);
-  const QMenu& contents() const { return menu_; }
 
   QAction trace{"Trace"}, mute{"Mute"}, smaller{"Smaller windows"}, larger{"Larger windows"},
       fullScreen{"Full screen"};
