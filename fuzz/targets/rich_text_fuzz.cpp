@@ -2,7 +2,7 @@
 
 #include "fuzz/bytes.h"
 #include "fuzz/require.h"
-#include "tests/support/rich_text_faults.h"
+#include "fuzz/rich_text_order.h"
 #include "text/utf8.h"
 
 namespace quintara::fuzz {

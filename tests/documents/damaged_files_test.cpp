@@ -3,9 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include "fuzz/rich_text_order.h"
 #include "tests/documents/words.h"
 #include "tests/support/memory_disk.h"
-#include "tests/support/rich_text_faults.h"
 
 namespace quintara {
 namespace {

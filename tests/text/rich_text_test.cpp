@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "tests/support/rich_text_faults.h"
+#include "fuzz/rich_text_order.h"
 #include "text/utf8.h"
 
 namespace quintara {
