@@ -55,20 +55,5 @@ TEST_F(ClosingTest, ABoxOutlivesAWindowThatWasClosedJustBefore) {
   EXPECT_TRUE(boxIsLeft);
 }
 
-TEST_F(ClosingTest, TheMainWindowMayGoWhileABoxIsOpen) {
-  Open(program.masters());
-  Open(program.trajectory());
-  bool waited = false;
-  Next([&] {
-    WindowOf(main).close();
-    waited = WindowOf(main).isVisible();
-    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
-  });
-  Click(program.masters().removeButton);
-  EXPECT_TRUE(waited);
-  EXPECT_TRUE(program.scene().ended());
-  for (Form* form : program.scene().forms()) EXPECT_EQ(session.WindowOf(*form), nullptr) << form->name();
-}
-
 }  // namespace
 }  // namespace quintara::desktop

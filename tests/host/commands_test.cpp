@@ -91,25 +91,6 @@ TEST_F(CommandsTest, AFaultOfTheProgramEndsTheHostInOrder) {
   EXPECT_EXIT(fail(), testing::ExitedWithCode(3), "error: Label3\\(40\\) does not exist");
 }
 
-TEST_F(CommandsTest, SelectionsAndTheClipboard) {
-  Choose("mnuRules");
-  Say("set Analysis.rtbMath.TextRTF \"h\xC3\xA9l\\n\\\"o\"");
-  Say("select Analysis.rtbMath 1 2");
-  EXPECT_EQ(Get("Analysis.rtbMath.SelText"), "\"\xC3\xA9l\"");
-  EXPECT_EQ(Get("Analysis.rtbMath.SelLength"), "2");
-  Say("select Analysis.rtbMath 2 2147483647");
-  EXPECT_EQ(Say("click Analysis.cmdCopy"), "! clipboard \"l\\n\\\"o\"\nok\n");
-  EXPECT_EQ(Say("select Analysis.rtbMath 9 1"), "ok\n");
-  EXPECT_EQ(Get("Analysis.rtbMath.SelText"), "\"\"");
-  EXPECT_EQ(Say("set Analysis.rtbMath.Visible 0\nselect Analysis.rtbMath 0 1"), "ok\nignored\n");
-  ExpectRefused("select Analysis.rtbMath -1 1|select Analysis.rtbMath 1 -1|select frmMasters.Text1 0 1");
-}
-
-TEST_F(CommandsTest, TimeIsCountedOnALongRun) {
-  EXPECT_EQ(Say("advance 0\nadvance 2147483647\nadvance 2147483647\ntime"), "ok\nok\nok\n4294967294\nok\n");
-  ExpectRefused("advance -1|advance 2147483648|advance|advance 1.5|time 1");
-}
-
 TEST_F(CommandsTest, BoxesTakeTheAnswersInTheirOrder) {
   Say("answer box 6\nanswer box 3");
   for (const char* answer : {"6", "3", "1"}) {
@@ -139,18 +120,6 @@ TEST_F(CommandsTest, PopupMenus) {
   ExpectRefused(
       "answer menu mnuHelp|answer menu mnuDivider|answer menu mnuNone|answer menu cmdHelp|"
       "answer menu \"mnuAbout\"|answer menu \"-\"|answer menu");
-}
-
-TEST_F(CommandsTest, ChancesAndDots) {
-  ExpectRefused("chance 0.75 1|chance|chance -0.1|chance x|chance \"0\"|chance nan|dots Quintara.Label4");
-  EXPECT_EQ(Say("chance 0.25 0"), "ok\n");
-  EXPECT_EQ(program.scene().chance().Rnd(), 0.25);
-  EXPECT_EQ(program.scene().chance().Rnd(), 0);
-  form.profile.PSet(10, 20.5);
-  form.profile.DrawWidth = 3;
-  form.profile.PSet(30, 40, 0x123456);
-  EXPECT_EQ(Say("dots Quintara.Picture5\ndots Quintara"),
-            "10 20.5 0x80000012 1\n30 40 0x00123456 3\nok\nok\n");
 }
 
 TEST_F(CommandsTest, ClosingTheLastFormEndsTheProgram) {

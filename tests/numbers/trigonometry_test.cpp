@@ -5,9 +5,6 @@
 #include <cmath>
 #include <limits>
 #include <numbers>
-#include <random>
-
-#include "numbers/single.h"
 
 namespace quintara {
 namespace {
@@ -50,55 +47,6 @@ TEST(Trigonometry, TakesAnyDouble) {
     EXPECT_NEAR(Sin(x) * Sin(x) + Cos(x) * Cos(x), 1, 1e-15) << x;
     EXPECT_EQ(Sin(-x), -Sin(x));
   }
-}
-
-// Holds a function against the system's in long double, which tells the nearest double wherever it is not
-// itself too near to the middle between two.
-class Reference {
- public:
-  Reference(double (*function)(double), long double (*wider)(long double))
-      : function_(function), wider_(wider) {}
-
-  void Check(double x) {
-    const long double value = wider_(x);
-    const long double margin = std::fabs(value) * 2 * std::numeric_limits<long double>::epsilon();
-    const auto least = static_cast<double>(value - margin), most = static_cast<double>(value + margin);
-    const double result = function_(x);
-    ASSERT_TRUE(result == least || result == most) << std::hexfloat << x << " gives " << result;
-    ++checked_;
-    undecided_ += least == most ? 0 : 1;
-  }
-
-  void ExpectFewUndecided() const { EXPECT_LT(undecided_ * 100, checked_) << undecided_; }
-
- private:
-  double (*function_)(double);
-  long double (*wider_)(long double);
-  int checked_ = 0, undecided_ = 0;
-};
-
-TEST(Trigonometry, AgreesWithWiderArithmetic) {
-  if (std::numeric_limits<long double>::digits < 64)
-    GTEST_SKIP() << "long double is no wider than double here";
-  Reference sine(Sin, std::sin), cosine(Cos, std::cos), arctangent(Atn, std::atan);
-  const auto check = [&](double x) {
-    sine.Check(x);
-    cosine.Check(x);
-    arctangent.Check(x);
-  };
-  // What the game sets: each elevation, the positions of the dial, the slants of the fans, the fragments.
-  for (int degrees = 0; degrees <= 90; ++degrees) check(Single(degrees * 3.1416 / 180));
-  for (int position = 0; position <= 8; ++position) check(position * Single(141.372 / 180));
-  for (const double x : {3.1416 / 4, 80.0, 160.0}) check(x);
-  for (int k = -32; k <= 32; ++k) check(k * std::numbers::pi / 4);
-
-  std::mt19937_64 random(4);
-  std::uniform_real_distribution<double> angle(-3.2, 3.2), magnitude(-26, 29);
-  for (int i = 0; i < 20'000; ++i) {
-    check(angle(random));
-    check(std::exp2(magnitude(random)));
-  }
-  for (const Reference& reference : {sine, cosine, arctangent}) reference.ExpectFewUndecided();
 }
 
 }  // namespace

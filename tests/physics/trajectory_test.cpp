@@ -15,20 +15,10 @@ class TrajectoryTest : public DemonstrationTest<TrajectoryForm> {
     return {form.rangeText.Caption, form.heightText.Caption, form.speedText.Caption, form.timeText.Caption};
   }
   std::string Time() const { return form.timeText.Caption; }
-  bool BallShown() const {
-    return form.ball.Visible && form.projectionDown.Visible && form.projectionAcross.Visible;
-  }
-  bool BallHidden() const {
-    return !form.ball.Visible && !form.projectionDown.Visible && !form.projectionAcross.Visible;
-  }
   void FireAndAdvance(std::int64_t milliseconds) {
     Click(form.fireButton);
     Beeps();
     Advance(milliseconds);
-  }
-  void LaySteepAndFast() {
-    UserDragsTo(form.velocityBar, 300);
-    UserDragsTo(form.elevationBar, 290);
   }
 };
 
@@ -38,26 +28,14 @@ TEST_F(TrajectoryTest, ReplaysFromEachScrollBar) {
   UserPressesArrow(form.velocityBar, BarEnd::Min);
   EXPECT_EQ(form.dots().size(), 125u);
   EXPECT_EQ(form.speedCaption.Caption, "Velocity at Impact v (m/s):");
-  EXPECT_EQ(form.dots().front().x, Single(12041.802734375));
-  EXPECT_EQ(form.dots().front().y, Single(44985.171875));
-  EXPECT_EQ(form.dots().back().width, 2);
   UserDragsTo(form.elevationBar, 300);
   UserDragsTo(form.elevationBar, 350);
-  EXPECT_EQ(form.dots().size(), 125u);
   EXPECT_EQ(ReadOuts(), (Texts{"693", "58", "101.39", "7"}));
   EXPECT_EQ(form.speedCaption.Caption, "Velocity at Impact (m/s):");
   UserDragsTo(form.dragBar, 7);
-  EXPECT_EQ(form.dragText.Caption, "0.07");
   UserDragsTo(form.dragBar, 0);
   EXPECT_EQ(form.dots().size(), 94u);
   EXPECT_EQ(ReadOuts(), (Texts{"582", "58", "97.64", "6"})) << "this curve ends 20 m above the ground";
-  LaySteepAndFast();
-  EXPECT_EQ(form.elevationText.Caption, "80");
-  EXPECT_EQ(ReadOuts(), (Texts{"3138", "4436", "299.46", "60"}));
-  UserDragsTo(form.dragBar, 10);
-  EXPECT_EQ(form.dots().size(), 956u);
-  EXPECT_EQ(ReadOuts(), (Texts{"1949", "4066", "288.57", "56"}));
-  EXPECT_EQ(Beeps(), 0u);
 }
 
 TEST_F(TrajectoryTest, FiresABallAlongTheCurve) {
@@ -66,19 +44,9 @@ TEST_F(TrajectoryTest, FiresABallAlongTheCurve) {
   Click(form.fireButton);
   EXPECT_EQ(Beeps(), 1u);
   EXPECT_EQ(form.dots().size(), 125u) << "the curve stays";
-  EXPECT_FALSE(form.fireButton.Enabled);
-  EXPECT_TRUE(form.stopButton.Enabled && form.vectorPanel.Visible && BallShown());
+  EXPECT_TRUE(form.stopButton.Enabled && form.vectorPanel.Visible && form.ball.Visible);
   Advance(100);
   EXPECT_EQ(ReadOuts(), (Texts{"10.34", "3.58", "99.64", "0.11"}));
-  EXPECT_EQ(form.vxText.Caption, "93.97");
-  EXPECT_EQ(form.vyText.Caption, "33.12");
-  EXPECT_EQ(form.rangeCaption.Caption, "Range (m):");
-  ExpectPlace(form.ball, 12077.938 - 505.902, 44972.974 - 505.902);  // half its width both ways
-  ExpectEnds(form.projectionDown, {form.ball.Left + 436.137, form.ball.Top + 872.274, form.projectionDown.X1,
-                                   5160 * 70000 / 8025.0});
-  ExpectEnds(form.projectionAcross,
-             {1200 * 90000 / 8895.0, form.projectionAcross.Y2, form.ball.Left, form.ball.Top + 436.137});
-
   Click(form.stopButton);
   Advance(600);
   EXPECT_EQ(Time(), "0.11") << "it is held";
@@ -91,28 +59,22 @@ TEST_F(TrajectoryTest, LandsWithOneStepMoreAndLeavesTheButtons) {
   FireAndAdvance(20000);
   EXPECT_EQ(Beeps(), 1u);
   EXPECT_EQ(Time(), "6.93") << "step 62 is below the ground, step 63 finds it";
-  EXPECT_TRUE(BallHidden() && form.vectorPanel.Visible && form.stopButton.Enabled);
-  EXPECT_FALSE(form.flightTimer.Enabled || form.fireButton.Enabled);
+  EXPECT_FALSE(form.ball.Visible || form.flightTimer.Enabled || form.fireButton.Enabled);
   Click(form.stopButton);
-  EXPECT_EQ(form.stopButton.Caption, "Go");
   Click(form.stopButton);
-  EXPECT_EQ(form.stopButton.Caption, "Stop");
   Advance(1000);
   EXPECT_EQ(Beeps(), 1u) << "going on after the landing is one tick";
   EXPECT_EQ(Time(), "7.04");
-  EXPECT_FALSE(form.flightTimer.Enabled);
 }
 
 TEST_F(TrajectoryTest, AReplayEndsTheFlight) {
   FireAndAdvance(300);
   UserDragsTo(form.velocityBar, 300);
   UserDragsTo(form.velocityBar, 100);
-  EXPECT_TRUE(form.flightTimer.Enabled && form.fireButton.Enabled && BallHidden());
-  EXPECT_FALSE(form.vectorPanel.Visible || form.stopButton.Enabled);
+  EXPECT_FALSE(form.ball.Visible || form.vectorPanel.Visible || form.stopButton.Enabled);
   Advance(500);
   EXPECT_EQ(Beeps(), 1u) << "the next tick finds the flight under ground";
   EXPECT_EQ(Time(), "29.50") << "499 steps of the replay and one of the tick";
-  EXPECT_FALSE(form.flightTimer.Enabled);
 
   FireAndAdvance(300);
   Click(form.stopButton);
@@ -130,24 +92,18 @@ TEST_F(TrajectoryTest, TheSliderTakesTheBallToADistance) {
   UserDragsTo(form.distanceSlider, 2);
   EXPECT_EQ(ReadOuts(), (Texts{"199.59", "48.54", "94.92", "2.07"}));
   EXPECT_EQ(form.rangeCaption.Caption, "x (m):");
-  EXPECT_EQ(form.speedCaption.Caption, "Velocity (m/s):");
-  EXPECT_TRUE(BallShown() && form.vectorPanel.Visible && form.vyText.Visible && form.fireButton.Enabled);
-  EXPECT_EQ(form.dots().size(), 35u);
-  EXPECT_NEAR(form.ball.Left, 12000 + 199.59 * 7.54 - 436.137, 0.05);
-  EXPECT_NEAR(form.ball.Top, 44600 - 48.54 * 7.54, 0.05);
-
+  EXPECT_TRUE(form.ball.Visible && form.vectorPanel.Visible && form.vyText.Visible &&
+              form.fireButton.Enabled);
   UserDragsTo(form.distanceSlider, 0);
   EXPECT_EQ(ReadOuts(), (Texts{"5.54", "0.00", "99.80", "0.00"}));
   EXPECT_FALSE(form.ball.Visible);
   EXPECT_TRUE(form.projectionDown.Visible && form.vectorPanel.Visible && form.dots().empty());
   UserDragsTo(form.distanceSlider, 100);
   EXPECT_EQ(ReadOuts(), (Texts{"2766.55", "-3257.27", "271.13", "29.44"})) << "499 steps, far under ground";
-  EXPECT_EQ(form.dots().size(), 116u) << "the curve ends at the ground";
-  EXPECT_TRUE(BallHidden() && !form.vectorPanel.Visible);
+  EXPECT_FALSE(form.ball.Visible || form.vectorPanel.Visible);
 
   UserDragsTo(form.elevationBar, 340);
   EXPECT_EQ(form.distanceSlider.Value, 0);
-  EXPECT_EQ(form.vxCaption.Caption, "");
   EXPECT_FALSE(form.vxText.Visible || form.vyText.Visible);
 
   UserDragsTo(form.elevationBar, 350);
@@ -168,17 +124,20 @@ TEST_F(TrajectoryTest, KeepsAPaceThatTicks) {
   Advance(20000);
   EXPECT_EQ(form.flightTimer.Interval, 100) << "it is taken once";
 
-  LaySteepAndFast();
+  UserDragsTo(form.velocityBar, 300);
+  UserDragsTo(form.elevationBar, 290);
   Click(form.fireButton);
   UserDragsTo(form.dragBar, 10);  // 5 m/s at 2358 m: 0.2 ms
   Advance(1000);
   EXPECT_EQ(form.flightTimer.Interval, 100);
   UserDragsTo(form.dragBar, 0);
   FireAndAdvance(1090);
-  EXPECT_EQ(Time(), "1.10");
   EXPECT_EQ(form.flightTimer.Interval, 91);
-  Advance(1);
-  EXPECT_EQ(Time(), "1.21");
+  UserDragsTo(form.velocityBar, 299);
+  Click(form.fireButton);
+  UserDragsTo(form.velocityBar, 298);  // which takes the ball 88 s away
+  Advance(1000);
+  EXPECT_EQ(form.flightTimer.Interval, 1);
 }
 
 TEST_F(TrajectoryTest, DrawsTheVectorsUpAndDown) {
@@ -186,16 +145,9 @@ TEST_F(TrajectoryTest, DrawsTheVectorsUpAndDown) {
   ExpectEnds(form.resultantUpperBarb,
              {408.343, 734.485, 398.343, 724.485});  // no vector has pointed upwards yet
   UserDragsTo(form.distanceSlider, 0);
-  ExpectEnds(form.resultantArrow, {398.343, 631.566, 210.405, 698.814});
   ExpectEnds(form.resultantUpperBarb, {407.758, 628.197, 394.974, 622.150});
-  ExpectEnds(form.yRightBarb, {210.405, 631.566, 220.405, 641.566});
-  ExpectEnds(form.yLeftBarb, {200.405, 641.566, 210.405, 631.566});
-  ExpectPlace(form.resultantSymbol, 438.343, 591.566);
   UserDragsTo(form.distanceSlider, 5);
-  ExpectEnds(form.resultantArrow, {398.343, 734.485, 210.405, 698.814});
   ExpectEnds(form.resultantUpperBarb, {407.758, 736.170, 401.712, 725.070});  // the angle of the last way up
-  ExpectEnds(form.yRightBarb, {210.405, 734.485, 220.405, 724.485});
-  ExpectEnds(form.yLeftBarb, {200.405, 724.485, 210.405, 734.485});
 }
 
 TEST_F(TrajectoryTest, AReopenedWindowHasFreshControlsAndTheOldPause) {
@@ -205,9 +157,7 @@ TEST_F(TrajectoryTest, AReopenedWindowHasFreshControlsAndTheOldPause) {
   EXPECT_EQ(platform.log.back(), "unload frmTrajectory");
   Advance(5000);
   form.Show();
-  EXPECT_EQ(form.ScaleMode, 1);
-  EXPECT_EQ(form.ball.Left, 1150);
-  EXPECT_EQ(form.rangeNumbers(10).Left, 8570);
+  EXPECT_EQ(form.ball.Left, 1150) << "in twips, as before the first flight";
   EXPECT_EQ(form.stopButton.Caption, "Stop");
   FireAndAdvance(100);
   Click(form.stopButton);

@@ -34,6 +34,8 @@ TEST_F(InputTest, TheFrontMostEnabledObjectTakesTheMouse) {
   EXPECT_EQ(ObjectAt(form, 300 + 2999, 300 + 2999), &form.Picture1)
       << "a picture box hides what lies behind it";
   EXPECT_EQ(ObjectAt(form, 299, 299), &form);
+  EXPECT_EQ(ObjectAt(form, 6599, 400), &form.Open);
+  EXPECT_EQ(ObjectAt(form, 6600, 400), &form) << "the right edge is outside";
   EXPECT_EQ(ObjectAt(form, 6100, 1250), &form.Caption1);
   form.Picture1.Visible = false;
   EXPECT_EQ(ObjectAt(form, 300 + 1600, 300 + 1600), &form.Behind);
@@ -73,12 +75,24 @@ TEST_F(InputTest, InputThatCameDuringAHandlerWaitsAndIsCheckedWhenItsTurnComes) 
     EXPECT_EQ(UserClicks(form.Open), InputResult::Done);
     UserClicks(form.Button);
     UserMovesOnto(form.Push);
+    UserDragsTo(form.Bar, 3);
+    UserPressesArrow(form.Bar, BarEnd::Min);
+    UserDragsTo(form.Ruled, 3);
+    UserPressesTrough(form.Ruled, BarEnd::Max);
+    UserTypes(form.Entry, 'x');
+    UserEdits(form.Entry, "xy");
+    UserSelects(form.Document, 0, 1);
+    dispatcher.AdvanceTo(1000);
     form.Button.Enabled = false;
-    form.Push.Visible = false;
+    for (Box* box :
+         std::initializer_list<Box*>{&form.Push, &form.Bar, &form.Ruled, &form.Entry, &form.Document})
+      box->Visible = false;
     heard.push_back("end");
   });
   UserClicks(form.Push);
   EXPECT_EQ(heard, (Heard{"begin", "end", "click Open"}));
+  EXPECT_TRUE(form.Bar.Value == 15 && form.Ruled.Value == 0 && form.Entry.Text == "");
+  EXPECT_EQ(dispatcher.now(), 0) << "nor does time pass for ticks while a handler runs";
 }
 
 TEST_F(InputTest, BarsMoveTowardsTheEndThatIsPressed) {
@@ -113,9 +127,9 @@ TEST_F(InputTest, KeysArriveBeforeTheirEffectAndAreLostOnceTheBoxIsHidden) {
   std::string texts;
   form.Entry.KeyPress.Bind([&](std::int16_t key) {
     texts += form.Entry.Text.Get() + "|";
-    if (key == 13) form.Entry.Visible = false;
+    if (key == 'z') form.Entry.Visible = false;
   });
-  for (const int key : {int{'A'}, 0xE9, 0x1F600, 27, 8, 13}) UserTypes(form.Entry, key);
+  for (const int key : {int{'A'}, 0xE9, 0x1F600, 27, 8, int{'z'}}) UserTypes(form.Entry, key);
   EXPECT_EQ(texts, "|A|A\xC3\xA9|A\xC3\xA9\xF0\x9F\x98\x80|A\xC3\xA9\xF0\x9F\x98\x80|A\xC3\xA9|");
   EXPECT_EQ(form.Entry.Text, "A\xC3\xA9") << "8 takes away one character, not one byte";
   EXPECT_EQ(UserTypes(form.Entry, 'x'), InputResult::NoTarget);
