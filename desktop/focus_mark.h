@@ -4,7 +4,8 @@
 
 namespace quintara::desktop {
 
-// The dotted frame around the control of a window that has the focus. Buttons and texts show theirs themselves.
+// The dotted frame around the control of a window that has the focus. Buttons and texts show theirs
+// themselves.
 class FocusMark final : public QWidget {
  public:
   explicit FocusMark(QWidget& window);
